@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/** The fixed files of the program; other parts of the desktop know them by these names. */
+namespace paths {
+constexpr char pidFile[] = "/tmp/.btdpid";
+constexpr char debugLog[] = "/tmp/pairdesk.log";
+constexpr char styleSheet[] = "/tmp/.config/default.css";
+}
