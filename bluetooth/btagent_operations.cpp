@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Operations on one device, given by its address, and the slots on which their outcome comes back.
+#include "app/debuglog.h"
+#include "bluetooth/adapters.h"
+#include "bluetooth/btagent.h"
+#include "bluetooth/keepalive.h"
+
+#include <BluezQt/Adapter>
+#include <BluezQt/Device>
+#include <QDebug>
+
+BluezQt::DevicePtr btagent::findDevice(const QString &address) const
+{
+    return manager ? manager->deviceForAddress(address) : BluezQt::DevicePtr();
+}
+
+/**
+ * Makes the device the current one and cuts every connection from its signals, whoever made it: afterwards
+ * the caller's own connection is the only one, however often the device was operated before.
+ */
+void btagent::adoptDevice(const BluezQt::DevicePtr &operated)
+{
+    device = operated;
+    QObject::disconnect(operated.data(), nullptr, nullptr, nullptr);
+}
+
+void btagent::pairDevice(const QString &address)
+{
+    debugLog(3, "btagent::pairDevice address: %s", qUtf8Printable(address));
+    if (const BluezQt::DevicePtr dev = findDevice(address)) {
+        debugLog(3, "btagent::pairDevice dev: %s", qUtf8Printable(dev->name()));
+        dev->pair();
+        adoptDevice(dev);
+        connect(dev.data(), &BluezQt::Device::pairedChanged, this, &btagent::onPairedChanged);
+    }
+    debugLog(3, "btagent::pairDevice out");
+}
+
+void btagent::connectDevice(const QString &address)
+{
+    debugLog(3, "btagent::connectDevice address: %s", qUtf8Printable(address));
+    if (const BluezQt::DevicePtr dev = findDevice(address)) {
+        debugLog(3, "btagent::connectDevice dev: %s", qUtf8Printable(dev->name()));
+        BluezQt::PendingCall *pc = dev->connectToDevice();
+        adoptDevice(dev);
+        connect(dev.data(), &BluezQt::Device::connectedChanged, this, &btagent::onConnectedChanged);
+        pc->setUserData(QStringLiteral("connect"));
+        connect(pc, &BluezQt::PendingCall::finished, this, &btagent::onCallFinished);
+    }
+    debugLog(3, "btagent::connectDevice out");
+}
+
+void btagent::disconnectDevice(const QString &address)
+{
+    debugLog(3, "btagent::disconnectDevice address: %s", qUtf8Printable(address));
+    if (const BluezQt::DevicePtr dev = findDevice(address)) {
+        debugLog(3, "btagent::disconnectDevice dev: %s", qUtf8Printable(dev->name()));
+        dev->disconnectFromDevice();
+        adoptDevice(dev);
+        connect(dev.data(), &BluezQt::Device::connectedChanged, this, &btagent::onConnectedChanged);
+    }
+    debugLog(3, "btagent::disconnectDevice out");
+}
+
+void btagent::removeDevice(const QString &address)
+{
+    debugLog(3, "btagent::removeDevice address: %s", qUtf8Printable(address));
+    if (const BluezQt::DevicePtr dev = findDevice(address)) {
+        debugLog(3, "btagent::removeDevice dev: %s", qUtf8Printable(dev->name()));
+        const BluezQt::AdapterPtr adapter = usableOrFirstAdapter(manager);
+        if (!adapter) {
+            qDebug() << noAdaptersMessage;
+            connect(manager, &BluezQt::Manager::adapterAdded, this, &btagent::adapterAdded);
+            return;
+        }
+        connect(adapter.data(), &BluezQt::Adapter::deviceRemoved, this, &btagent::onDeviceRemoved);
+        adapter->removeDevice(dev)->waitForFinished();
+    }
+    debugLog(3, "btagent::removeDevice out");
+}
+
+void btagent::onPairedChanged(bool paired)
+{
+    debugLog(3, "btagent::onPairedChanged paired: %d", paired);
+    keepSender(sender());
+    qDebug() << "onPairedChanged address:" << device->address() << ",paired:" << (paired ? "true" : "false");
+    emit pairedChanged(paired);
+    debugLog(3, "btagent::onPairedChanged out");
+}
+
+void btagent::onConnectedChanged(bool connected)
+{
+    debugLog(3, "btagent::onConnectedChanged connected: %d", connected);
+    keepSender(sender());
+    qDebug() << "onConnectedChanged address:" << device->address()
+             << ",connected:" << (connected ? "true" : "false");
+    emit connectedChanged(connected);
+    debugLog(3, "btagent::onConnectedChanged out");
+}
+
+void btagent::onCallFinished(BluezQt::PendingCall *pc)
+{
+    debugLog(3, "btagent::onCallFinished in");
+    if (pc) {
+        keepSender(pc);
+        const QString action = pc->userData().toString();
+        const QString error = pc->errorText();
+        emit callFinished(action, error);
+    }
+    debugLog(3, "btagent::onCallFinished out");
+}

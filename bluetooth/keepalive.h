@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QObject;
+
+/**
+ * Keeps the device or adapter whose signal is being handled alive until control is back in the event loop
+ * from which the slot was called; event loops nested in the slot (a message box, processEvents) do not
+ * release it. A slot that runs one calls this first with its sender: the object may vanish meanwhile, but
+ * the library still works with it once the slot returns. The sender is a Device, an Adapter or a pending
+ * call of one of them, which goes with its parent; anything else, null included, is ignored.
+ */
+void keepSender(const QObject *sender);
