@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The dialog and its list of devices; connecting one is in btscan_connect.cpp.
+#include "dialogs/btscan.h"
+
+#include "app/debuglog.h"
+#include "app/feedback.h"
+#include "app/textfile.h"
+#include "bluetooth/adapters.h"
+#include "bluetooth/btagent.h"
+#include "bluetooth/keepalive.h"
+#include "dialogs/pin.h"
+#include "ui_btscan.h"
+
+#include <BluezQt/Adapter>
+#include <BluezQt/Device>
+#include <QDebug>
+#include <QMovie>
+
+btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
+    : QDialog(parent)
+    , ui(new Ui::btscan)
+    , m_agent(agent)
+    , m_pin(nullptr)
+    , m_busyLabel(nullptr)
+    , m_busyMovie(nullptr)
+    , m_busy(false)
+    , settings(settings)
+{
+    debugLog(3, "btscan::btscan");
+    ui->setupUi(this);
+    setFixedSize(size());
+    debugLog(3, "btscan::btscan in");
+    setUpTable();
+    ui->pairconnect->setEnabled(false);
+    ui->remove->setEnabled(false);
+    setStyleSheet(styleSheetText());
+    setWindowIcon(QIcon(QStringLiteral(":/images/btlogo64.png")));
+
+    connect(m_agent, SIGNAL(deviceAdded()), this, SLOT(onDeviceFound()));
+    connect(m_agent, SIGNAL(agentDeviceChanged()), this, SLOT(onDevicePropertyChanged()));
+    connect(m_agent, SIGNAL(pairedChanged(bool)), this, SLOT(onPairedChanged(bool)));
+    connect(m_agent, SIGNAL(displayPinCodeSlot(QString)), this, SLOT(onDisplayPinCode(QString)));
+    connect(m_agent, SIGNAL(cancelSignal()), this, SLOT(onCancel()));
+
+    startAnimation(ui->gif, nullptr);
+    populateTable();
+    m_agent->scanDevices();
+    debugLog(3, "btscan::btscan out");
+}
+
+btscan::~btscan()
+{
+    debugLog(3, "btscan::~btscan");
+    m_agent->stopScan();
+    delete m_busyMovie;
+    delete ui;
+}
+
+void btscan::setUpTable()
+{
+    QTableWidget *table = ui->devices;
+    table->setHorizontalHeaderLabels({ tr("Description"), tr("Type") });
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->setColumnWidth(0, 180);
+    table->setShowGrid(false);
+    table->verticalHeader()->hide();
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void btscan::startAnimation(QLabel *label, const char *file)
+{
+    m_busyLabel = label;
+    m_busyMovie = new QMovie(QString::fromUtf8(file ? file : ":/images/loader4.gif"));
+    m_busyLabel->setMovie(m_busyMovie);
+    m_busyLabel->show();
+    m_busyMovie->start();
+}
+
+void btscan::appendRow(const BluezQt::DevicePtr &device)
+{
+    const int row = ui->devices->rowCount();
+    ui->devices->insertRow(row);
+    auto *name = new QTableWidgetItem(device->name());
+    name->setData(Qt::UserRole, device->address());
+    ui->devices->setItem(row, 0, name);
+    ui->devices->setItem(row, 1, new QTableWidgetItem(BluezQt::Device::typeToString(device->type())));
+}
+
+void btscan::populateTable()
+{
+    qDebug() << "populateTable";
+    debugLog(3, "btscan::populateTable in");
+    // The rows stay on purpose, emptied; what is filled in now goes below them.
+    ui->devices->clearContents();
+    const QList<BluezQt::DevicePtr> devices = m_agent->manager->devices();
+    for (const BluezQt::DevicePtr &device : devices) {
+        debugLog(3, "btscan::populateTable dev: %s, address: %s, type: %s", qUtf8Printable(device->name()),
+                 qUtf8Printable(device->address()),
+                 qUtf8Printable(BluezQt::Device::typeToString(device->type())));
+        if (device->type() == BluezQt::Device::Uncategorized || device->isPaired())
+            continue;
+        appendRow(device);
+        qDebug() << "new item" << device->name();
+    }
+    debugLog(3, "btscan::populateTable out");
+}
+
+void btscan::onDeviceFound()
+{
+    debugLog(3, "btscan::onDeviceFound in");
+    const BluezQt::DevicePtr device = m_agent->device;
+    if (!device)
+        return;
+    debugLog(3, "btscan::onDeviceFound dev: %s, address: %s, type: %s, appearance: %04x",
+             qUtf8Printable(device->name()), qUtf8Printable(device->address()),
+             qUtf8Printable(BluezQt::Device::typeToString(device->type())), device->appearance());
+    if (device->type() == BluezQt::Device::Uncategorized) {
+        qDebug() << "Uncategarized with appearance:" << device->appearance();
+        debugLog(3, "btscan::onDeviceFound out");
+        return;
+    }
+    for (int row = 0; row < ui->devices->rowCount(); ++row) {
+        const QTableWidgetItem *item = ui->devices->item(row, 0);
+        debugLog(3, "btscan::onDeviceFound item: %x",
+                 static_cast<unsigned>(reinterpret_cast<quintptr>(item)));
+        if (item && item->data(Qt::UserRole).toString() == device->address()) {
+            debugLog(3, "btscan::onDeviceFound found, skip");
+            return;
+        }
+    }
+    appendRow(device);
+    debugLog(3, "btscan::onDeviceFound out");
+}
+
+void btscan::onDevicePropertyChanged()
+{
+    debugLog(3, "btscan::onDevicePropertyChanged in");
+    if (const BluezQt::DevicePtr device = m_agent->device) {
+        debugLog(3, "btscan::onDevicePropertyChanged dev: %s, type: %s", qUtf8Printable(device->name()),
+                 qUtf8Printable(BluezQt::Device::typeToString(device->type())));
+    }
+    debugLog(3, "btscan::onDevicePropertyChanged out");
+}
+
+QString btscan::getDeviceAddress()
+{
+    debugLog(3, "btscan::getDeviceAddress in");
+    const QList<QTableWidgetItem *> selected = ui->devices->selectedItems();
+    if (selected.isEmpty()) {
+        debugLog(3, "btscan::getDeviceAddress out1");
+        return {};
+    }
+    QString address = selected.first()->data(Qt::UserRole).toString();
+    debugLog(3, "btscan::getDeviceAddress out2");
+    return address;
+}
+
+void btscan::on_devices_clicked(QModelIndex /*index*/)
+{
+    debugLog(3, "btscan::on_devices_clicked");
+    if (ui->devices->selectedItems().isEmpty() || m_busy) {
+        ui->remove->setEnabled(false);
+    } else {
+        ui->pairconnect->setEnabled(true);
+        ui->remove->setEnabled(true);
+    }
+    debugLog(3, "btscan::on_devices_clicked out");
+}
+
+void btscan::on_close_clicked()
+{
+    debugLog(3, "btscan::on_close_clicked in");
+    restoreCursor();
+    close();
+    debugLog(3, "btscan::on_close_clicked out");
+}
+
+void btscan::on_remove_clicked()
+{
+    debugLog(3, "pairdesk::on_remove_clicked in"); // the main window's prefix is meant
+    removeSelected();
+    debugLog(3, "pairdesk::on_remove_clicked out");
+}
+
+void btscan::removeSelected()
+{
+    const QString address = getDeviceAddress();
+    BluezQt::Manager *manager = m_agent->manager;
+    if (!manager || address.isEmpty())
+        return;
+    showWaitCursor();
+    const BluezQt::DevicePtr device = manager->deviceForAddress(address);
+    if (!device)
+        return;
+    const BluezQt::AdapterPtr adapter = usableOrFirstAdapter(manager);
+    if (!adapter)
+        return;
+    // Wholesale on purpose, so that a removal is heard once; other listeners to this adapter end here too.
+    QObject::disconnect(adapter.data(), nullptr, nullptr, nullptr);
+    connect(adapter.data(), &BluezQt::Adapter::deviceRemoved, this, &btscan::onDeviceRemoved);
+    adapter->removeDevice(device);
+}
+
+void btscan::onDeviceRemoved(BluezQt::DevicePtr /*device*/)
+{
+    debugLog(3, "btscan::onDeviceRemoved in");
+    keepSender(sender());
+    populateTable();
+    restoreCursor();
+    debugLog(3, "btscan::onDeviceRemoved out");
+}
+
+void btscan::onDisplayPinCode(QString pin)
+{
+    debugLog(3, "btscan::onDisplayPinCode %s", qUtf8Printable(pin));
+    m_pin = new Pin(pin, this);
+    m_pin->show();
+    debugLog(3, "btscan::onDisplayPinCode out");
+}
+
+void btscan::onCancel()
+{
+    debugLog(3, "btscan::onCancel");
+    closePin();
+    debugLog(3, "btscan::onCancel out");
+}
+
+void btscan::closePin()
+{
+    if (m_pin)
+        m_pin->close();
+    m_pin = nullptr;
+}
