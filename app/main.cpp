@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/debuglog.h"
+#include "app/paths.h"
+#include "app/singleinstance.h"
+#include "mainwindow/pairdesk.h"
+
+#include <BluezQt/InitManagerJob>
+#include <BluezQt/Manager>
+#include <QApplication>
+#include <QDBusConnection>
+
+#include <csignal>
+#include <cstdio>
+#include <unistd.h>
+
+/** The process' one manager; it lives until the process ends. */
+static BluezQt::Manager *s_manager = nullptr;
+
+static void hupSignalHandler(int /*signal*/)
+{
+    // The agent's prefix is meant.
+    debugLog(3, "btagent::hupSignalHandler");
+}
+
+static bool catchHangup()
+{
+    struct sigaction action { };
+    action.sa_handler = hupSignalHandler;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    return sigaction(SIGHUP, &action, nullptr) == 0;
+}
+
+int main(int argc, char **argv)
+{
+    if (anotherInstanceRuns()) {
+        std::puts("Another instance is running. Exit.");
+        return 0;
+    }
+    writePidFile();
+
+    // The window has a fixed size in pixels: on a dense screen everything in it has to grow alike.
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    QApplication::setDesktopFileName(QStringLiteral("pairdesk"));
+
+    s_manager = new BluezQt::Manager;
+    // Without a bus the job would never end.
+    if (QDBusConnection::systemBus().isConnected())
+        s_manager->init()->exec();
+
+    pairdesk window(s_manager, nullptr);
+    window.show();
+
+    if (!catchHangup())
+        return 1;
+    QApplication::exec();
+    unlink(paths::pidFile);
+    return window.m_bOk ? 0 : 1;
+}

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Bluetooth switch: it starts and stops the service and then shows what BlueZ's manager reports.
+#include "app/commandrunner.h"
+#include "app/debuglog.h"
+#include "app/feedback.h"
+#include "app/textfile.h"
+#include "mainwindow/pairdesk.h"
+#include "ui_pairdesk.h"
+
+#include <BluezQt/Adapter>
+#include <BluezQt/Manager>
+#include <QDebug>
+#include <QProcess>
+#include <QTimer>
+
+bool pairdesk::executeCommand(const QString &command)
+{
+    debugLog(3, "pairdesk::executeCommand %s", qUtf8Printable(command));
+    qDebug() << "executeCommand:" << command;
+    const CommandResult result = runCommand(QStringLiteral("sh"), { QStringLiteral("-c"), command }, 30000);
+    m_stdout = utf8Text(result.standardOutput);
+    m_stderr = utf8Text(result.standardError);
+    qDebug() << "stdout:" << m_stdout;
+    qDebug() << "stderr:" << m_stderr;
+    if (result.crashed) {
+        qDebug() << "crash";
+        debugLog(3, "pairdesk::executeCommand out1");
+        return false; // with the exit code of an earlier command, on purpose
+    }
+    m_exitCode = result.exitCode;
+    qDebug() << "exitCode:" << m_exitCode;
+    if (m_exitCode != 0) {
+        debugLog(3, "pairdesk::executeCommand out2");
+        return false;
+    }
+    debugLog(3, "pairdesk::executeCommand out3");
+    return true;
+}
+
+void pairdesk::hcitoollescan()
+{
+    debugLog(3, "btagent::hcitoollescan"); // the agent's prefix is meant
+    const QString program = QStringLiteral("hcitool");
+    const QStringList arguments = { QStringLiteral("lescan") };
+    QProcess process;
+    process.start(program, arguments, QIODevice::ReadWrite);
+    process.waitForFinished(3000);
+    process.terminate();
+    debugLog(3, "btagent::hcitoollescan exitCode: %d", process.exitCode());
+    if (process.exitCode() == 1) {
+        process.start(program, arguments, QIODevice::ReadWrite);
+        process.waitForFinished(2000);
+        process.terminate();
+    }
+}
+
+bool pairdesk::getBluetoothStatus()
+{
+    debugLog(3, "pairdesk::getBluetoothStatus in");
+    executeCommand(QStringLiteral("systemctl status bluetooth"));
+    m_bOn = (m_exitCode == 0);
+    debugLog(3, "pairdesk::getBluetoothStatus out");
+    return true;
+}
+
+bool pairdesk::setBluetoothStatus(bool on)
+{
+    debugLog(3, "pairdesk::setBluetoothStatus in");
+    executeCommand(on ? QStringLiteral("systemctl start bluetooth")
+                      : QStringLiteral("systemctl stop bluetooth"));
+    executeCommand(QStringLiteral("systemctl status bluetooth"));
+    debugLog(3, "pairdesk::setBluetoothStatus out");
+    return true;
+}
+
+void pairdesk::on_onoff_clicked()
+{
+    debugLog(3, "pairdesk::on_onoff_clicked in");
+    qDebug() << "on_pushButton_clicked";
+    // The cursor and the old picture stay until the manager reports the change.
+    showWaitCursor();
+    setBluetoothStatus(!m_bOn);
+    updateUi();
+    debugLog(3, "pairdesk::on_onoff_clicked out");
+}
+
+void pairdesk::updateUi()
+{
+    debugLog(3, "pairdesk::updateUi in m_bOn:%d", m_bOn);
+    ui->pushme->setPixmap(m_bOn ? QPixmap(QStringLiteral(":/images/on32b.png"))
+                                : QPixmap(QStringLiteral(":/images/off32b.png")));
+    ui->pushme->setAccessibleName(m_bOn ? tr("Bluetooth switch, on") : tr("Bluetooth switch, off"));
+    ui->devices->setEnabled(m_bOn);
+    ui->add->setEnabled(m_bOn && !m_manager->adapters().isEmpty());
+    debugLog(3, "pairdesk::updateUi out");
+}
+
+void pairdesk::onOperationalChanged(bool operational)
+{
+    qDebug() << "onOperationalChanged" << (operational ? "true" : "false");
+    debugLog(3, "pairdesk::onOperationalChanged operational: %d", operational);
+    m_bOn = operational;
+    updateUi();
+    restoreCursor();
+    debugLog(3, "pairdesk::onOperationalChanged out");
+}
+
+void pairdesk::onBlockedChanged(bool blocked)
+{
+    qDebug() << "onBlockedChanged" << (blocked ? "true" : "false");
+    debugLog(3, "pairdesk::onBlockedChanged blocked: %d", blocked);
+    m_bOn = !blocked;
+    populateTable();
+    updateUi();
+    restoreCursor();
+    debugLog(3, "pairdesk::onBlockedChanged out");
+}
+
+void pairdesk::onAdapterAdded(BluezQt::AdapterPtr adapter)
+{
+    debugLog(3, "pairdesk::onAdapterAdded in");
+    if (adapter)
+        debugLog(3, "pairdesk::onAdapterAdded adapter: %s", qUtf8Printable(adapter->name()));
+    ui->add->setEnabled(!m_manager->adapters().isEmpty());
+    QTimer::singleShot(1000, this, SLOT(onPopupateTable()));
+    debugLog(3, "pairdesk::onAdapterAdded out");
+}
+
+void pairdesk::onAdapterRemoved(BluezQt::AdapterPtr adapter)
+{
+    qDebug() << "onAdapterRemoved" << adapter->name();
+    debugLog(3, "pairdesk::onAdapterRemoved in");
+    debugLog(3, "pairdesk::onAdapterRemoved adapter: %s", qUtf8Printable(adapter->name()));
+    ui->add->setEnabled(!m_manager->adapters().isEmpty());
+    QTimer::singleShot(1000, this, SLOT(onPopupateTable()));
+    debugLog(3, "pairdesk::onAdapterRemoved out");
+}

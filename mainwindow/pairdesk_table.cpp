@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The table of paired and connected devices, and the buttons that follow its chosen row.
+#include "app/debuglog.h"
+#include "app/feedback.h"
+#include "bluetooth/btagent.h"
+#include "bluetooth/keepalive.h"
+#include "mainwindow/pairdesk.h"
+#include "ui_pairdesk.h"
+
+#include <BluezQt/Device>
+#include <QDebug>
+
+void pairdesk::populateTable()
+{
+    qDebug() << "populateTable";
+    debugLog(3, "pairdesk::populateTable in");
+    QTableWidget *table = ui->devices;
+    // The rows stay on purpose: when fewer devices qualify than before, the last ones are left empty.
+    table->clearContents();
+
+    int row = 0;
+    const QList<BluezQt::DevicePtr> devices = m_manager->devices();
+    for (const BluezQt::DevicePtr &device : devices) {
+        if (!device)
+            continue;
+        const QString type = BluezQt::Device::typeToString(device->type());
+        debugLog(3, "pairdesk::populateTable dev: %s, type: %s", qUtf8Printable(device->name()),
+                 qUtf8Printable(type));
+        if (device->type() == BluezQt::Device::Uncategorized)
+            continue;
+        if (!device->isPaired() && !device->isConnected())
+            continue;
+
+        if (table->rowCount() <= row)
+            table->insertRow(row);
+        auto *name = new QTableWidgetItem(device->name());
+        debugLog(3, "pairdesk::populateTable address is %s", qUtf8Printable(device->address()));
+        name->setData(Qt::UserRole, device->address());
+        table->setItem(row, 0, name);
+        table->setItem(row, 1, new QTableWidgetItem(type));
+        table->setItem(row, 2,
+                       new QTableWidgetItem(device->isConnected() ? tr("Connected") : tr("Disconnected")));
+        ++row;
+    }
+    updateElements(nullptr);
+    debugLog(3, "pairdesk::populateTable out");
+}
+
+void pairdesk::onPopupateTable() { populateTable(); }
+
+void pairdesk::updateElements(QTableWidgetItem *item)
+{
+    debugLog(3, "pairdesk::updateElements in");
+    if (!item) {
+        ui->connect->setEnabled(false);
+        ui->disconnect->setEnabled(false);
+        ui->remove->setEnabled(false);
+        debugLog(3, "pairdesk::updateElements out");
+        return;
+    }
+    const QString address = item->data(Qt::UserRole).toString();
+    if (const BluezQt::DevicePtr device = m_manager->deviceForAddress(address)) {
+        ui->connect->setEnabled(!device->isConnected());
+        ui->disconnect->setEnabled(device->isConnected());
+    } else {
+        debugLog(3, "pairdesk::updateElements dev is null. address is %s", qUtf8Printable(address));
+    }
+    ui->remove->setEnabled(true);
+    debugLog(3, "pairdesk::updateElements out");
+}
+
+void pairdesk::on_devices_clicked(QModelIndex index)
+{
+    debugLog(3, "pairdesk::on_devices_clicked in row:%d, col:%d", index.row(), index.column());
+    QTableWidgetItem *item = ui->devices->item(index.row(), 0);
+    if (item)
+        debugLog(3, "pairdesk::on_devices_clicked item %s", qUtf8Printable(item->text()));
+    updateElements(item);
+    debugLog(3, "pairdesk::on_devices_clicked out");
+}
+
+QString pairdesk::getDeviceAddress()
+{
+    debugLog(3, "pairdesk::getDeviceAddress in");
+    const QList<QTableWidgetItem *> selected = ui->devices->selectedItems();
+    if (selected.isEmpty())
+        return {};
+    QString address = selected.first()->data(Qt::UserRole).toString();
+    debugLog(3, "pairdesk::getDeviceAddress out");
+    return address;
+}
+
+void pairdesk::onDeviceRemoved(BluezQt::DevicePtr device)
+{
+    debugLog(3, "pairdesk::onDeviceRemoved in");
+    keepSender(sender());
+    debugLog(3, "pairdesk::onDeviceRemoved dev: %s", qUtf8Printable(device->name()));
+    qDebug() << "onDeviceRemoved address:" << device->address();
+    populateTable();
+    restoreCursor();
+    updateElements(nullptr);
+    debugLog(3, "pairdesk::onDeviceRemoved out");
+}
+
+void pairdesk::onConnectedChanged(bool connected)
+{
+    debugLog(3, "pairdesk::onConnectedChanged in");
+    const BluezQt::DevicePtr device = m_agent->device;
+    debugLog(3, "pairdesk::onConnectedChanged dev: %s, connected: %d", qUtf8Printable(device->name()),
+             connected);
+    qDebug() << "onConnectedChanged address:" << device->address()
+             << ",connected:" << (connected ? "true" : "false");
+    populateTable();
+    restoreCursor();
+    debugLog(3, "pairdesk::onConnectedChanged out");
+}
+
+void pairdesk::onDevicePropertyChanged(BluezQt::DevicePtr device)
+{
+    debugLog(3, "pairdesk::onDevicePropertyChanged in");
+    if (device) {
+        debugLog(3, "pairdesk::onDevicePropertyChanged dev: %s, paired: %d, connected: %d",
+                 qUtf8Printable(device->name()), device->isPaired(), device->isConnected());
+        if (device->isPaired())
+            populateTable();
+    }
+    debugLog(3, "pairdesk::onDevicePropertyChanged out");
+}
