@@ -6,4 +6,5 @@ namespace paths {
 constexpr char pidFile[] = "/tmp/.btdpid";
 constexpr char debugLog[] = "/tmp/pairdesk.log";
 constexpr char styleSheet[] = "/tmp/.config/default.css";
+constexpr char audioSample[] = "/tmp/sample.wav";
 }

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void on_disconnect_clicked();
     void on_devices_clicked(QModelIndex index);
     void on_ok_clicked();
+    void on_options_clicked();
     void hcitoollescan();
 
 public Q_SLOTS:

@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the buttons do.
+// What the buttons do with the chosen device, and the two that end the program.
 #include "app/debuglog.h"
 #include "app/feedback.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
-#include "dialogs/btscan.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Manager>
 #include <QDebug>
-
-void pairdesk::on_add_clicked()
-{
-    debugLog(3, "pairdesk::on_add_clicked in");
-    btscan dialog(m_agent, &m_settings, this);
-    dialog.exec();
-    populateTable();
-    debugLog(3, "pairdesk::on_add_clicked out");
-}
 
 void pairdesk::on_connect_clicked()
 {

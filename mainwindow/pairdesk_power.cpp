@@ -17,7 +17,7 @@ bool pairdesk::executeCommand(const QString &command)
 {
     debugLog(3, "pairdesk::executeCommand %s", qUtf8Printable(command));
     qDebug() << "executeCommand:" << command;
-    const CommandResult result = runCommand(QStringLiteral("sh"), { QStringLiteral("-c"), command }, 30000);
+    const CommandResult result = runShell(command, 30000);
     m_stdout = utf8Text(result.standardOutput);
     m_stderr = utf8Text(result.standardError);
     qDebug() << "stdout:" << m_stdout;
