@@ -64,6 +64,10 @@ private:
     /** The address of the selected row, empty when there is none. */
     QString getDeviceAddress();
 
+    /** The row's column-0 item that the context menu is about, null when there is none. */
+    QTableWidgetItem *contextMenuItem() const;
+    QTableWidgetItem *itemForAddress(const QString &address) const;
+
 private Q_SLOTS:
     void on_onoff_clicked();
     void on_add_clicked();
@@ -74,6 +78,7 @@ private Q_SLOTS:
     void on_devices_clicked(QModelIndex index);
     void on_ok_clicked();
     void on_options_clicked();
+    void on_devices_customContextMenuRequested(QPoint pos);
     void hcitoollescan();
 
 public Q_SLOTS:

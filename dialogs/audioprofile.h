@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/** One profile of a sound card, read from its line in the output of "pactl list cards". */
+class AudioProfile {
+public:
+    /**
+     * Takes a line such as "a2dp_sink: High Fidelity Playback (sinks: 1, sources: 0, priority: 40)".
+     * What the line lacks stays empty or 0.
+     */
+    explicit AudioProfile(QString line);
+
+    QString name; ///< the server's identifier
+    QString description; ///< for the user
+    int sinks; ///< how many; only the first digit is read
+    int sources; ///< likewise
+};
+
+/** What a listing of sound cards says of the cards whose blocks contain a key. */
+struct CardProfiles {
+    QStringList lines; ///< one a profile, as listed
+    QString active; ///< name of the active profile, null where the listing tells none
+};
+
+/** Reads the output of "pactl list cards", which may be cut off anywhere. The key is matched
+ * case-sensitively. */
+CardProfiles parseCards(const QString &listing, const QString &key);

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "dialogs/audioprofile.h"
+
+#include <BluezQt/Manager>
+#include <BluezQt/Types>
+#include <QDialog>
+
+namespace Ui {
+class audiotest;
+}
+
+/**
+ * Lets the user hear and speak through a connected headset: a test sound for each channel, the profiles of
+ * its sound card, a recorded sample. All of it is done by the sound server's command-line tools, and the
+ * window is blocked while they run.
+ */
+class audiotest : public QDialog {
+    Q_OBJECT
+
+public:
+    /** The manager stays the caller's. An address that it does not know is treated as a device without name.
+     */
+    audiotest(BluezQt::Manager *manager, QString address, QWidget *parent);
+    ~audiotest() override;
+
+private:
+    Ui::audiotest *ui;
+    QString m_cardName; ///< the key that finds the headset's card in the listings
+    QString m_address;
+    QString m_sourceName; ///< empty when the headset has no recording source
+    QStringList m_profileLines;
+    QString m_activeProfile;
+    QList<AudioProfile *> m_profiles; ///< owned, in the order of the listing
+    bool m_ready; ///< false while the program itself changes the combo box
+    int m_channels; ///< 1 when the headset's sink is mono, else 2
+    BluezQt::DevicePtr m_device; ///< may be null
+    BluezQt::Manager *m_manager;
+    bool m_pipewire; ///< whether PipeWire runs, else PulseAudio
+
+    bool isPipewireRunning();
+    void uploadSamples();
+    void detectSinkChannels();
+    void updateProfileWidgets(const AudioProfile &profile);
+
+    void readCardProfiles();
+    void showActiveProfile();
+    void setCardProfile(const QString &name);
+    void findSourceName();
+    static bool sampleExists();
+
+private Q_SLOTS:
+    void on_close_clicked();
+    void on_leftbt_clicked();
+    void on_monobt_clicked();
+    void on_rightbt_clicked();
+    void on_record_clicked();
+    void on_play_clicked();
+    void resetbalance();
+    void on_profiles_currentIndexChanged(int index);
+};

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Recording a sample from the headset's microphone and playing it back.
+#include "app/commandrunner.h"
+#include "app/feedback.h"
+#include "app/paths.h"
+#include "dialogs/audiocommands.h"
+#include "dialogs/audiotest.h"
+#include "ui_audiotest.h"
+
+#include <QFileInfo>
+#include <QProcess>
+
+#include <unistd.h>
+
+void audiotest::findSourceName()
+{
+    const QString key = m_pipewire ? m_cardName : audiocommands::sourceKey(m_address, m_activeProfile);
+    const CommandResult result = runShell(audiocommands::listSources(key), 30000, Messages::Untranslated);
+    const bool found = result.finished && QString::fromUtf8(result.standardOutput).contains(key);
+    m_sourceName = found ? key : QString();
+}
+
+bool audiotest::sampleExists()
+{
+    QFile sample(QString::fromLatin1(paths::audioSample));
+    return QFileInfo(sample).isFile() && sample.open(QIODevice::ReadOnly)
+           && static_cast<qint32>(sample.size()) != 0;
+}
+
+void audiotest::on_record_clicked()
+{
+    findSourceName();
+    if (m_sourceName.isEmpty()) {
+        showCritical(this, tr("Audio source name"),
+                     tr("An error occurred while getting the audio source name."));
+        return;
+    }
+    QProcess recorder;
+    recorder.start(QStringLiteral("sh"), { QStringLiteral("-c"), audiocommands::record(m_sourceName) },
+                   QIODevice::ReadWrite);
+    ui->record->setEnabled(false);
+    ui->play->setEnabled(false);
+    showWaitCursor();
+    unlink(paths::audioSample); // on purpose only now, with the recorder started
+    recorder.waitForFinished(10000); // it does not end by itself: this is the recording time
+    runShellBlindly("killall parecord");
+    restoreCursor();
+    if (sampleExists()) {
+        ui->play->setEnabled(true);
+    } else {
+        showCritical(this, tr("Sample Record"),
+                     tr("An error occurred while reconding the audio sample.\nThe file is empty"));
+    }
+    ui->record->setEnabled(true);
+}
+
+void audiotest::on_play_clicked()
+{
+    if (!sampleExists())
+        return;
+    ui->record->setEnabled(false);
+    ui->play->setEnabled(false);
+    showWaitCursor();
+    runShell(QStringLiteral("parecord -p /tmp/sample.wav"), 11000);
+    ui->record->setEnabled(true);
+    ui->play->setEnabled(true);
+    restoreCursor();
+}
