@@ -39,9 +39,11 @@ void debugLogClose()
     s_open = 0;
 }
 
-void debugLog(int level, const char *format, ...)
+bool debugLogWrites(int level) { return s_open && level == s_level; }
+
+void(debugLog)(int level, const char *format, ...)
 {
-    if (!s_open || level != s_level)
+    if (!debugLogWrites(level))
         return;
 
     const time_t seconds = std::time(nullptr);
