@@ -5,26 +5,31 @@
 #include "app/textfile.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <csignal>
+#include <fcntl.h>
 #include <unistd.h>
+
+/** A link is refused, since anybody can lay one at that place. */
+static bool openPidFile(QFile *file, int flags, QIODevice::OpenMode mode)
+{
+    const int descriptor = openRegularFile(paths::pidFile, flags | O_NOFOLLOW);
+    return descriptor >= 0 && file->open(descriptor, mode, QFileDevice::AutoCloseHandle);
+}
 
 bool anotherInstanceRuns()
 {
-    QByteArray bytes;
-    if (!readFile(paths::pidFile, &bytes))
+    QFile file;
+    if (!openPidFile(&file, O_RDONLY, QIODevice::ReadOnly))
         return false;
     // Whatever is no number reads as 0, which makes kill() test our own process group: refused on purpose.
-    return kill(latin1Text(bytes).toInt(), 0) == 0;
+    return kill(latin1Text(file.readAll()).toInt(), 0) == 0;
 }
 
 void writePidFile()
 {
-    const QFileInfo info(QString::fromLatin1(paths::pidFile));
-    if (info.exists() && !info.isFile())
-        return;
-    QFile file(info.filePath());
-    if (file.open(QIODevice::ReadWrite | QIODevice::Truncate))
+    QFile file;
+    // Emptied only once it is known for a regular file.
+    if (openPidFile(&file, O_RDWR | O_CREAT, QIODevice::ReadWrite) && file.resize(0))
         file.write(QString::number(getpid()).toUtf8());
 }

@@ -16,31 +16,35 @@ QString utf8Text(const QByteArray &bytes)
 
 QString latin1Text(const QByteArray &bytes) { return QString::fromLatin1(bytes.constData()); }
 
-bool readFile(const char *path, QByteArray *bytes, Owner owner)
+int openRegularFile(const char *path, int flags)
 {
     // Opened first and examined afterwards, so that nobody swaps the file in between.
-    const int descriptor = ::open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return false;
-
+    const int descriptor = ::open(path, flags | O_NONBLOCK | O_CLOEXEC, 0666);
     struct stat status { };
-    const bool regular = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
-    const bool trusted = owner == Owner::Anyone || status.st_uid == getuid() || status.st_uid == 0;
-    QFile file;
-    if (!regular || !trusted || !file.open(descriptor, QIODevice::ReadOnly)) {
-        ::close(descriptor);
-        return false;
-    }
-    *bytes = file.readAll();
-    file.close();
+    if (descriptor < 0 || (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)))
+        return descriptor;
     ::close(descriptor);
+    return -1;
+}
+
+bool readTrustedFile(const char *path, QByteArray *bytes)
+{
+    QFile file;
+    const int descriptor = openRegularFile(path, O_RDONLY);
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return false;
+    struct stat status { };
+    if (fstat(descriptor, &status) != 0 || (status.st_uid != getuid() && status.st_uid != 0))
+        return false;
+    *bytes = file.readAll();
     return true;
 }
 
-QString styleSheetText()
+const char disabledButtonRule[] = "QPushButton:disabled { background-color:#3f3f3f; }";
+
+QString userStyleSheet()
 {
     QByteArray bytes;
-    // The file lies in a folder that everybody may write to.
-    readFile(paths::styleSheet, &bytes, Owner::UserOrRoot);
-    return latin1Text(bytes) + QStringLiteral("QPushButton:disabled { background-color:#3f3f3f; }");
+    readTrustedFile(paths::styleSheet, &bytes); // it lies in a folder that everybody may write to
+    return latin1Text(bytes);
 }

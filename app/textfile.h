@@ -10,14 +10,17 @@ QString utf8Text(const QByteArray &bytes);
 /** The bytes up to the first NUL, read as Latin-1. */
 QString latin1Text(const QByteArray &bytes);
 
-/** Who may own a file for its content to be read. */
-enum class Owner { Anyone, UserOrRoot };
-
 /**
- * Reads a regular file whole into *bytes. Returns false and leaves *bytes alone when the file cannot be
- * opened, is not a regular file (a pipe would block for ever) or belongs to somebody else than allowed.
+ * Opens a file with the flags of open(2) (a new one for all to read and write, less the umask) and returns
+ * its descriptor; -1 when that fails or it is no regular file: a pipe would block for ever.
  */
-bool readFile(const char *path, QByteArray *bytes, Owner owner = Owner::Anyone);
+int openRegularFile(const char *path, int flags);
 
-/** The user's own style sheet, empty when there is none, followed by the rule for disabled buttons. */
-QString styleSheetText();
+/** Reads a file whole that belongs to the user or root. False, with *bytes left alone, for any other. */
+bool readTrustedFile(const char *path, QByteArray *bytes);
+
+/** The user's own style sheet, empty when there is none. */
+QString userStyleSheet();
+
+/** Goes behind the user's style sheet. */
+extern const char disabledButtonRule[];

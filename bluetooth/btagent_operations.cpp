@@ -3,7 +3,7 @@
 #include "app/debuglog.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/keepalive.h"
+#include "bluetooth/eventloops.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Device>

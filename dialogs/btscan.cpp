@@ -7,7 +7,7 @@
 #include "app/textfile.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/keepalive.h"
+#include "bluetooth/eventloops.h"
 #include "dialogs/pin.h"
 #include "ui_btscan.h"
 
@@ -33,7 +33,8 @@ btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     setUpTable();
     ui->pairconnect->setEnabled(false);
     ui->remove->setEnabled(false);
-    setStyleSheet(styleSheetText());
+    setStyleSheet(userStyleSheet());
+    setStyleSheet(styleSheet() + QLatin1String(disabledButtonRule));
     setWindowIcon(QIcon(QStringLiteral(":/images/btlogo64.png")));
 
     connect(m_agent, SIGNAL(deviceAdded()), this, SLOT(onDeviceFound()));
@@ -208,7 +209,7 @@ void btscan::onDeviceRemoved(BluezQt::DevicePtr /*device*/)
     debugLog(3, "btscan::onDeviceRemoved in");
     keepSender(sender());
     populateTable();
-    restoreCursor();
+    restoreCursorAfterRemoval(m_agent->manager);
     debugLog(3, "btscan::onDeviceRemoved out");
 }
 

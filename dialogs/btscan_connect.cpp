@@ -4,7 +4,7 @@
 #include "app/debuglog.h"
 #include "app/feedback.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/keepalive.h"
+#include "bluetooth/eventloops.h"
 #include "dialogs/btscan.h"
 #include "ui_btscan.h"
 

@@ -27,7 +27,7 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     setWindowFlags(Qt::Dialog);
     setFixedSize(size());
     setUpTable();
-    setStyleSheet(styleSheetText());
+    setStyleSheet(userStyleSheet() + QLatin1String(disabledButtonRule));
     setWindowIcon(QIcon(QStringLiteral(":/images/btlogo64.png")));
 
     m_settings.load();

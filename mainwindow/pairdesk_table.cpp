@@ -3,7 +3,7 @@
 #include "app/debuglog.h"
 #include "app/feedback.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/keepalive.h"
+#include "bluetooth/eventloops.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
 
@@ -97,7 +97,7 @@ void pairdesk::onDeviceRemoved(BluezQt::DevicePtr device)
     debugLog(3, "pairdesk::onDeviceRemoved dev: %s", qUtf8Printable(device->name()));
     qDebug() << "onDeviceRemoved address:" << device->address();
     populateTable();
-    restoreCursor();
+    restoreCursorAfterRemoval(m_manager);
     updateElements(nullptr);
     debugLog(3, "pairdesk::onDeviceRemoved out");
 }

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bluetooth/keepalive.h"
+#include "bluetooth/eventloops.h"
+
+#include "app/feedback.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Device>
+#include <BluezQt/Manager>
 #include <BluezQt/PendingCall>
+#include <QApplication>
 #include <QSharedPointer>
 
 namespace {
@@ -32,4 +36,12 @@ void keepSender(const QObject *sender)
     // Unlike a zero timer, a deferred deletion waits for the loop level at which it was asked for.
     if (kept)
         (new Keeper(kept))->deleteLater();
+}
+
+void restoreCursorAfterRemoval(const BluezQt::Manager *manager)
+{
+    if (manager->isOperational())
+        restoreCursor();
+    else
+        QApplication::restoreOverrideCursor();
 }
