@@ -87,6 +87,18 @@ void btscan::appendRow(const BluezQt::DevicePtr &device)
     name->setData(Qt::UserRole, device->address());
     ui->devices->setItem(row, 0, name);
     ui->devices->setItem(row, 1, new QTableWidgetItem(BluezQt::Device::typeToString(device->type())));
+    m_listed.insert(device->address());
+}
+
+void btscan::traceRows(const QString &address) const
+{
+    for (int row = 0; row < ui->devices->rowCount(); ++row) {
+        const QTableWidgetItem *item = ui->devices->item(row, 0);
+        debugLog(3, "btscan::onDeviceFound item: %x",
+                 static_cast<unsigned>(reinterpret_cast<quintptr>(item)));
+        if (item && item->data(Qt::UserRole).toString() == address)
+            return;
+    }
 }
 
 void btscan::populateTable()
@@ -95,6 +107,7 @@ void btscan::populateTable()
     debugLog(3, "btscan::populateTable in");
     // The rows stay on purpose, emptied; what is filled in now goes below them.
     ui->devices->clearContents();
+    m_listed.clear();
     const QList<BluezQt::DevicePtr> devices = m_agent->manager->devices();
     for (const BluezQt::DevicePtr &device : devices) {
         debugLog(3, "btscan::populateTable dev: %s, address: %s, type: %s", qUtf8Printable(device->name()),
@@ -122,14 +135,11 @@ void btscan::onDeviceFound()
         debugLog(3, "btscan::onDeviceFound out");
         return;
     }
-    for (int row = 0; row < ui->devices->rowCount(); ++row) {
-        const QTableWidgetItem *item = ui->devices->item(row, 0);
-        debugLog(3, "btscan::onDeviceFound item: %x",
-                 static_cast<unsigned>(reinterpret_cast<quintptr>(item)));
-        if (item && item->data(Qt::UserRole).toString() == device->address()) {
-            debugLog(3, "btscan::onDeviceFound found, skip");
-            return;
-        }
+    if (debugLogWrites(3))
+        traceRows(device->address());
+    if (m_listed.contains(device->address())) {
+        debugLog(3, "btscan::onDeviceFound found, skip");
+        return;
     }
     appendRow(device);
     debugLog(3, "btscan::onDeviceFound out");

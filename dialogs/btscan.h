@@ -4,6 +4,7 @@
 #include <BluezQt/Types>
 #include <QDialog>
 #include <QModelIndex>
+#include <QSet>
 
 class AppSettings;
 class Pin;
@@ -41,6 +42,7 @@ private:
     BluezQt::DevicePtr m_pairDevice; ///< being paired by itself, which nothing here asks for today
     bool m_busy; ///< a connect is under way, or the last one failed
     AppSettings *settings;
+    QSet<QString> m_listed; ///< the addresses in the table, so that no device has to walk the rows
 
     void setUpTable();
     /** Shows an animation, a resource or file path, on the label; null stands for the program's own. */
@@ -49,6 +51,8 @@ private:
     /** The address of the selected row, empty when there is none. */
     QString getDeviceAddress();
     void appendRow(const BluezQt::DevicePtr &device);
+    /** Writes a line for each row up to the one with this address. */
+    void traceRows(const QString &address) const;
     void removeSelected();
     void closePin();
 

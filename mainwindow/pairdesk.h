@@ -3,9 +3,10 @@
 
 #include "app/appsettings.h"
 
-#include <BluezQt/Types>
+#include <BluezQt/Device>
 #include <QMainWindow>
 #include <QModelIndex>
+#include <QVector>
 
 class btagent;
 class QTableWidgetItem;
@@ -44,6 +45,16 @@ private:
     btagent *m_agent;
     AppSettings m_settings;
 
+    /** What the table shows of a device. */
+    struct Row {
+        QString name;
+        QString address;
+        BluezQt::Device::Type type;
+        bool connected;
+        bool operator==(const Row &other) const;
+    };
+    QVector<Row> m_rows; ///< as last written into the table
+
     void setUpTable();
     void connectSignals();
     void registerAgentAgain(bool operational);
@@ -59,6 +70,8 @@ private:
     void updateUi();
 
     void populateTable();
+    QVector<Row> listedDevices() const;
+    void writeRows();
     /** Sets the device buttons for the row of this item; without an item disables them. */
     void updateElements(QTableWidgetItem *item);
     /** The address of the selected row, empty when there is none. */

@@ -10,37 +10,60 @@
 #include <BluezQt/Device>
 #include <QDebug>
 
-void pairdesk::populateTable()
+bool pairdesk::Row::operator==(const Row &other) const
 {
-    qDebug() << "populateTable";
-    debugLog(3, "pairdesk::populateTable in");
-    QTableWidget *table = ui->devices;
-    // The rows stay on purpose: when fewer devices qualify than before, the last ones are left empty.
-    table->clearContents();
+    return name == other.name && address == other.address && type == other.type
+           && connected == other.connected;
+}
 
-    int row = 0;
+QVector<pairdesk::Row> pairdesk::listedDevices() const
+{
+    QVector<Row> listed;
     const QList<BluezQt::DevicePtr> devices = m_manager->devices();
     for (const BluezQt::DevicePtr &device : devices) {
         if (!device)
             continue;
-        const QString type = BluezQt::Device::typeToString(device->type());
-        debugLog(3, "pairdesk::populateTable dev: %s, type: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(type));
-        if (device->type() == BluezQt::Device::Uncategorized)
+        const Row row = { device->name(), device->address(), device->type(), device->isConnected() };
+        debugLog(3, "pairdesk::populateTable dev: %s, type: %s", qUtf8Printable(row.name),
+                 qUtf8Printable(BluezQt::Device::typeToString(row.type)));
+        if (row.type == BluezQt::Device::Uncategorized)
             continue;
-        if (!device->isPaired() && !device->isConnected())
+        if (!device->isPaired() && !row.connected)
             continue;
+        debugLog(3, "pairdesk::populateTable address is %s", qUtf8Printable(row.address));
+        listed.append(row);
+    }
+    return listed;
+}
 
-        if (table->rowCount() <= row)
-            table->insertRow(row);
-        auto *name = new QTableWidgetItem(device->name());
-        debugLog(3, "pairdesk::populateTable address is %s", qUtf8Printable(device->address()));
-        name->setData(Qt::UserRole, device->address());
-        table->setItem(row, 0, name);
-        table->setItem(row, 1, new QTableWidgetItem(type));
-        table->setItem(row, 2,
-                       new QTableWidgetItem(device->isConnected() ? tr("Connected") : tr("Disconnected")));
-        ++row;
+void pairdesk::writeRows()
+{
+    QTableWidget *table = ui->devices;
+    // The rows stay on purpose: when fewer devices qualify than before, the last ones are left empty.
+    table->clearContents();
+    if (table->rowCount() < m_rows.size())
+        table->setRowCount(m_rows.size());
+    for (int i = 0; i < m_rows.size(); ++i) {
+        const Row &row = m_rows[i];
+        auto *name = new QTableWidgetItem(row.name);
+        name->setData(Qt::UserRole, row.address);
+        table->setItem(i, 0, name);
+        table->setItem(i, 1, new QTableWidgetItem(BluezQt::Device::typeToString(row.type)));
+        table->setItem(i, 2, new QTableWidgetItem(row.connected ? tr("Connected") : tr("Disconnected")));
+    }
+}
+
+void pairdesk::populateTable()
+{
+    qDebug() << "populateTable";
+    debugLog(3, "pairdesk::populateTable in");
+    const QVector<Row> listed = listedDevices();
+    if (listed == m_rows) {
+        // Most calls come from a changed signal strength, which no row shows.
+        ui->devices->selectionModel()->clear();
+    } else {
+        m_rows = listed;
+        writeRows();
     }
     updateElements(nullptr);
     debugLog(3, "pairdesk::populateTable out");
