@@ -74,6 +74,7 @@ void btscan::startAnimation(QLabel *label, const char *file)
 {
     m_busyLabel = label;
     m_busyMovie = new QMovie(QString::fromUtf8(file ? file : ":/images/loader4.gif"));
+    m_busyMovie->setCacheMode(QMovie::CacheAll); // it turns as long as the dialog is open
     m_busyLabel->setMovie(m_busyMovie);
     m_busyLabel->show();
     m_busyMovie->start();

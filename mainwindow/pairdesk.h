@@ -45,15 +45,16 @@ private:
     btagent *m_agent;
     AppSettings m_settings;
 
-    /** What the table shows of a device. */
-    struct Row {
-        QString name;
+    /** What a device's row depends on. */
+    struct Known {
         QString address;
+        QString name;
         BluezQt::Device::Type type;
+        bool paired;
         bool connected;
-        bool operator==(const Row &other) const;
+        bool operator==(const Known &other) const;
     };
-    QVector<Row> m_rows; ///< as last written into the table
+    QVector<Known> m_known; ///< all devices as they were when the table was filled last
 
     void setUpTable();
     void connectSignals();
@@ -70,8 +71,9 @@ private:
     void updateUi();
 
     void populateTable();
-    QVector<Row> listedDevices() const;
-    void writeRows();
+    void fillTable();
+    /** Whether any row would look different from the last time that this was asked. */
+    bool devicesChanged();
     /** Sets the device buttons for the row of this item; without an item disables them. */
     void updateElements(QTableWidgetItem *item);
     /** The address of the selected row, empty when there is none. */

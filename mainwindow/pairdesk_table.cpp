@@ -7,66 +7,86 @@
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
 
+#include <BluezQt/Adapter>
 #include <BluezQt/Device>
 #include <QDebug>
-
-bool pairdesk::Row::operator==(const Row &other) const
-{
-    return name == other.name && address == other.address && type == other.type
-           && connected == other.connected;
-}
-
-QVector<pairdesk::Row> pairdesk::listedDevices() const
-{
-    QVector<Row> listed;
-    const QList<BluezQt::DevicePtr> devices = m_manager->devices();
-    for (const BluezQt::DevicePtr &device : devices) {
-        if (!device)
-            continue;
-        const Row row = { device->name(), device->address(), device->type(), device->isConnected() };
-        debugLog(3, "pairdesk::populateTable dev: %s, type: %s", qUtf8Printable(row.name),
-                 qUtf8Printable(BluezQt::Device::typeToString(row.type)));
-        if (row.type == BluezQt::Device::Uncategorized)
-            continue;
-        if (!device->isPaired() && !row.connected)
-            continue;
-        debugLog(3, "pairdesk::populateTable address is %s", qUtf8Printable(row.address));
-        listed.append(row);
-    }
-    return listed;
-}
-
-void pairdesk::writeRows()
-{
-    QTableWidget *table = ui->devices;
-    // The rows stay on purpose: when fewer devices qualify than before, the last ones are left empty.
-    table->clearContents();
-    if (table->rowCount() < m_rows.size())
-        table->setRowCount(m_rows.size());
-    for (int i = 0; i < m_rows.size(); ++i) {
-        const Row &row = m_rows[i];
-        auto *name = new QTableWidgetItem(row.name);
-        name->setData(Qt::UserRole, row.address);
-        table->setItem(i, 0, name);
-        table->setItem(i, 1, new QTableWidgetItem(BluezQt::Device::typeToString(row.type)));
-        table->setItem(i, 2, new QTableWidgetItem(row.connected ? tr("Connected") : tr("Disconnected")));
-    }
-}
 
 void pairdesk::populateTable()
 {
     qDebug() << "populateTable";
     debugLog(3, "pairdesk::populateTable in");
-    const QVector<Row> listed = listedDevices();
-    if (listed == m_rows) {
-        // Most calls come from a changed signal strength, which no row shows.
+    // Most calls come from a changed signal strength, which no row shows. The log has its lines all the same.
+    if (devicesChanged() || debugLogWrites(3))
+        fillTable();
+    else
         ui->devices->selectionModel()->clear();
-    } else {
-        m_rows = listed;
-        writeRows();
-    }
     updateElements(nullptr);
     debugLog(3, "pairdesk::populateTable out");
+}
+
+void pairdesk::fillTable()
+{
+    QTableWidget *table = ui->devices;
+    // The rows stay on purpose: when fewer devices qualify than before, the last ones are left empty.
+    table->clearContents();
+
+    int row = 0;
+    const QList<BluezQt::DevicePtr> devices = m_manager->devices();
+    for (const BluezQt::DevicePtr &device : devices) {
+        if (!device)
+            continue;
+        const QString type = BluezQt::Device::typeToString(device->type());
+        debugLog(3, "pairdesk::populateTable dev: %s, type: %s", qUtf8Printable(device->name()),
+                 qUtf8Printable(type));
+        if (device->type() == BluezQt::Device::Uncategorized)
+            continue;
+        if (!device->isPaired() && !device->isConnected())
+            continue;
+
+        if (table->rowCount() <= row)
+            table->insertRow(row);
+        auto *name = new QTableWidgetItem(device->name());
+        debugLog(3, "pairdesk::populateTable address is %s", qUtf8Printable(device->address()));
+        name->setData(Qt::UserRole, device->address());
+        table->setItem(row, 0, name);
+        table->setItem(row, 1, new QTableWidgetItem(type));
+        table->setItem(row, 2,
+                       new QTableWidgetItem(device->isConnected() ? tr("Connected") : tr("Disconnected")));
+        ++row;
+    }
+}
+
+bool pairdesk::Known::operator==(const Known &other) const
+{
+    return address == other.address && name == other.name && type == other.type && paired == other.paired
+           && connected == other.connected;
+}
+
+bool pairdesk::devicesChanged()
+{
+    bool changed = false;
+    int count = 0;
+    const QList<BluezQt::AdapterPtr> adapters = m_manager->adapters();
+    for (const BluezQt::AdapterPtr &adapter : adapters) {
+        // Unlike the manager's list this one is shared, not copied device by device.
+        const QList<BluezQt::DevicePtr> devices = adapter->devices();
+        for (const BluezQt::DevicePtr &device : devices) {
+            const Known known{ device->address(), device->name(), device->type(), device->isPaired(),
+                               device->isConnected() };
+            if (count == m_known.size())
+                m_known.append(Known());
+            if (!(m_known[count] == known)) {
+                m_known[count] = known;
+                changed = true;
+            }
+            ++count;
+        }
+    }
+    if (count < m_known.size()) {
+        m_known.resize(count);
+        changed = true;
+    }
+    return changed;
 }
 
 void pairdesk::onPopupateTable() { populateTable(); }
