@@ -14,6 +14,14 @@
 #include <QScreen>
 #include <QTimer>
 
+static void waitFor(BluezQt::PendingCall *call)
+{
+    call->waitForFinished();
+    // A call deletes itself, but one that was refused for want of a daemon belongs to nobody.
+    if (!call->parent())
+        delete call;
+}
+
 pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     : QMainWindow(parent)
     , m_bOk(false)
@@ -36,8 +44,8 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     debugLog(3, "pairdesk::pairdesk in");
 
     m_agent = new btagent(m_manager, &m_settings, this);
-    m_manager->registerAgent(m_agent)->waitForFinished();
-    m_manager->requestDefaultAgent(m_agent)->waitForFinished();
+    waitFor(m_manager->registerAgent(m_agent));
+    waitFor(m_manager->requestDefaultAgent(m_agent));
     connectSignals();
 
     m_bOn = m_settings.enabled;

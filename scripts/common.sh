@@ -7,7 +7,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages=(cmake g++ ninja-build qtbase5-dev libkf5bluezqt-dev)
 run_packages=(alsa-utils bluez procps psmisc pulseaudio-utils sound-theme-freedesktop)
 demo_packages=(dbus-bin dbus-daemon procps python3-dbus python3-gi)
-test_packages=(dbus-bin dbus-daemon nodejs)
+test_packages=(alsa-utils dbus-bin dbus-daemon libasound2-plugins nodejs procps psmisc pulseaudio pulseaudio-utils
+    sound-theme-freedesktop)
 screen_packages=(imagemagick xdotool xvfb)
 real_packages=(at-spi2-core bluez bluez-test-tools busybox-static cpio gir1.2-atspi-2.0 kmod libglib2.0-bin
     pulseaudio pulseaudio-module-bluetooth pulseaudio-utils qemu-system-x86)
