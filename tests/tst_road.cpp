@@ -62,9 +62,9 @@ void TestRoad::scan(const QString &name, const std::function<void(QTableWidget *
         auto *table = dialog->findChild<QTableWidget *>("devices");
         fill(table);
         whenModal([&](QWidget *box) {
+            const auto close = qScopeGuard([&] { box->close(); });
             m_boxes.append(qobject_cast<QMessageBox *>(box)->text());
             QTRY_VERIFY(logged().contains(last));
-            box->close();
         });
         clickRow(table, name);
         press(dialog, "pairconnect");

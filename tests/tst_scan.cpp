@@ -131,6 +131,7 @@ void TestScan::connects()
     const QString good = success.arg("Cans");
     const QPair<QVariantMap, QStringList> cases[] = {
         { { { "ReplyDelay", 100 } }, { good } }, // the change comes first
+        { { { "ReplyDelay", 150 } }, { good } }, // both come close together, on a slow machine
         { { { "ReplyDelay", 0 } }, { good } }, // the answer comes just before it
         { { { "ReplyDelay", -1 } }, { good } }, // no answer
         { { { "ReplyDelay", 100 }, { "ReplyFirst", true } }, { failure.arg("Cans"), good } },
@@ -141,6 +142,11 @@ void TestScan::connects()
         const QString address = desk.addDevice("Cans", {}, how);
         desk.takeCalls();
         desk.pressConnect("Cans");
+        // The answer then waits while the change is handled, and comes in as the cursor is restored.
+        QTimer slow;
+        connect(&slow, &QTimer::timeout, &slow, [] { QThread::msleep(100); });
+        if (how["ReplyDelay"] == 150)
+            slow.start(0);
         if (boxes.isEmpty())
             press(desk.dialog.get(), "close");
         QTRY_VERIFY(!desk.dialog->isVisible());
@@ -268,7 +274,7 @@ void TestScan::survives_data()
 {
     QTest::addColumn<QString>("moment");
     QTest::addColumn<QString>("victim");
-    for (const char *moment : { "scan", "connect", "success box", "failure box" }) {
+    for (const char *moment : { "scan", "connect", "change box", "answer box", "failure box" }) {
         for (const char *victim : { "daemon", "adapter", "device" })
             QTest::addRow("%s goes during %s", victim, moment) << moment << victim;
     }
@@ -281,10 +287,13 @@ void TestScan::survives()
     QFETCH(QString, victim);
     const QMap<QString, QVariantMap> how = {
         { "connect", { { "ConnectTime", 60000 } } },
+        { "answer box", { { "ReplyDelay", 0 } } },
         { "failure box", { { "ConnectError", "org.bluez.Error.Failed" } } },
     };
     const QString address = desk.addDevice("Cans", {}, how[moment]);
     const auto strike = [&] {
+        const QPointer<BluezQt::Device> struck = desk.device("Cans").data();
+        desk.agent->device.clear(); // as when another device comes in
         if (victim == "daemon")
             desk.kill();
         else if (victim == "adapter")
@@ -293,6 +302,7 @@ void TestScan::survives()
             desk.sim("RemoveDevice", { address });
         QTRY_VERIFY(!desk.device("Cans"));
         QTRY_COMPARE(desk.manager()->adapters().isEmpty(), victim != "device");
+        QCOMPARE(struck.isNull(), moment == "scan"); // whose signal is being handled lives on
     };
     if (moment.endsWith("box"))
         desk.whileBoxOpen = strike;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "bluetooth/btagent.h"
 #include "mainwindow/clickablelabel.h"
 #include "mainwindow/pairdesk.h"
 #include "tests/support/dialogs.h"
@@ -207,22 +208,24 @@ void TestWindow::survivesFailureBox()
     bool seen = false;
     whenModal([&](QWidget *modal) {
         auto *box = qobject_cast<QMessageBox *>(modal);
+        const auto close = qScopeGuard([&] { box->accept(); });
         QCOMPARE(box->windowTitle() + ": " + box->text(), "Bluetooth Connect: " + why);
         QCOMPARE(box->textFormat(), Qt::PlainText);
         QVERIFY(!QApplication::overrideCursor());
+        QVERIFY(!desk.enabled().startsWith("connect"));
+        desk.window->findChild<btagent *>()->device.clear(); // as when another device comes in
         if (victim == "device")
             desk.sim("RemoveDevice", { desk.cans });
         else if (victim == "daemon")
             desk.kill();
         QTRY_COMPARE(desk.device("Cans").isNull(), victim != "nothing");
-        QCOMPARE(desk.enabled(), QString("remove"));
+        QTRY_VERIFY(victim != "daemon" || rows(desk.table) == QStringList({ "", "" }));
         seen = true;
-        box->accept();
     });
     QVERIFY(clickRow(desk.table, "Cans"));
     press(desk.window.get(), "connect");
     QVERIFY(QApplication::overrideCursor());
-    QTRY_COMPARE(desk.enabled(), QString("connect remove"));
+    QTRY_VERIFY(desk.enabled().startsWith("connect"));
     QVERIFY(seen);
 
     if (victim == "daemon")
@@ -230,8 +233,9 @@ void TestWindow::survivesFailureBox()
     QTRY_VERIFY(desk.manager()->usableAdapter());
     desk.addDevice("New", { { "Paired", true } });
     QTRY_VERIFY(desk.device("New"));
-    emit desk.manager()->bluetoothBlockedChanged(false); // fills the table
-    QVERIFY(clickRow(desk.table, "New"));
+    if (victim != "daemon")
+        emit desk.manager()->bluetoothBlockedChanged(false); // fills the table, as the new adapter does
+    QTRY_VERIFY(clickRow(desk.table, "New"));
     press(desk.window.get(), "connect");
     QTRY_COMPARE(desk.enabled(), QString("connect")); // the answer enables it once more
     QVERIFY(desk.device("New")->isConnected() && !QApplication::overrideCursor());
