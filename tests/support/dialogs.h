@@ -6,8 +6,8 @@
 #include <functional>
 
 /**
- * Runs the step as soon as a modal window, other than one open already, is shown; schedule it before the call that
- * opens the window.
+ * Runs the step as soon as a modal window, other than one open already, is shown; schedule it before the call
+ * that opens the window.
  */
 void whenModal(const std::function<void(QWidget *)> &step);
 

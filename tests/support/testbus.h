@@ -9,8 +9,8 @@
 #include <memory>
 
 /**
- * The simulated BlueZ on the test's own bus, and everything else that the program would find on a machine: tools, settings,
- * state. One per test; the bus itself is there before the test starts.
+ * The simulated BlueZ on the test's own bus, and everything else that the program would find on a machine:
+ * tools, settings, state. One per test; the bus itself is there before the test starts.
  */
 class TestBus {
 public:
