@@ -67,8 +67,8 @@ QString TestBus::addDevice(const QString &name, const QVariantMap &properties, c
     QVariantMap all = properties;
     all[QStringLiteral("Name")] = name;
     all[QStringLiteral("Address")] = address;
-    sim(QStringLiteral("AddDevice"), {QStringLiteral("hci0"), all});
-    sim(QStringLiteral("SetBehaviour"), {address, how});
+    sim(QStringLiteral("AddDevice"), { QStringLiteral("hci0"), all });
+    sim(QStringLiteral("SetBehaviour"), { address, how });
     return address;
 }
 
