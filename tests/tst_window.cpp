@@ -82,6 +82,7 @@ private Q_SLOTS:
     void followsTheAdapter();
     void survivesFailureBox_data();
     void survivesFailureBox();
+    void outlivesTheDaemonAfterRemoval();
     void powersOnToRemove();
 };
 
@@ -241,6 +242,31 @@ void TestWindow::survivesFailureBox()
     QTRY_COMPARE(desk.enabled(), QString("connect")); // the answer enables it once more
     QVERIFY(desk.device("New")->isConnected() && !QApplication::overrideCursor());
     QVERIFY(rows(desk.table).contains("New|headset|Connected"));
+}
+
+/** The daemon returns while the box is open that its death brought up. */
+void TestWindow::outlivesTheDaemonAfterRemoval()
+{
+    Desk desk;
+    desk.sim("SetBehaviour", { desk.cans, QVariantMap{ { "ConnectTime", 60000 } } });
+    desk.open();
+    QVERIFY(clickRow(desk.table, "Keys"));
+    press(desk.window.get(), "remove");
+    QTRY_VERIFY(!desk.device("Keys") && !QApplication::overrideCursor());
+    bool seen = false;
+    whenModal([&](QWidget *box) {
+        const auto close = qScopeGuard([&] { box->close(); });
+        desk.start();
+        QTRY_VERIFY(desk.manager()->isOperational());
+        seen = true;
+    });
+    QVERIFY(clickRow(desk.table, "Cans"));
+    press(desk.window.get(), "connect");
+    QTRY_VERIFY(desk.sim("Calls").toStringList().contains("Connect " + desk.cans));
+    desk.kill();
+    QTRY_VERIFY(seen && !QApplication::activeModalWidget());
+    QCoreApplication::processEvents();
+    QVERIFY(desk.manager()->isOperational() && desk.manager()->usableAdapter() && desk.showsOn());
 }
 
 void TestWindow::powersOnToRemove()
