@@ -32,7 +32,9 @@ def failure(name, text):
 
 
 def typed(props):
-    return {name: TYPES.get(name, lambda value: value)(value) for name, value in props.items()}
+    """What makes no sense for its property stays as it is, for clients that have to cope with it."""
+    return {name: TYPES[name](value) if name in TYPES and isinstance(value, list if name == 'UUIDs' else int)
+            else value for name, value in props.items()}
 
 
 def pause(milliseconds):

@@ -97,8 +97,6 @@ private Q_SLOTS:
     void staysWaiting();
     void showsPins();
     void showsHostileNames();
-    void survives_data();
-    void survives();
 };
 
 void TestScan::lists()
@@ -268,62 +266,6 @@ void TestScan::showsHostileNames()
         QTRY_VERIFY(desk.button("pairconnect")->isEnabled());
         QCOMPARE(desk.boxes, QStringList({ QString(failure).replace("%1", name) }));
     }
-}
-
-void TestScan::survives_data()
-{
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<QString>("victim");
-    for (const char *moment : { "scan", "connect", "change box", "answer box", "failure box" }) {
-        for (const char *victim : { "daemon", "adapter", "device" })
-            QTest::addRow("%s goes during %s", victim, moment) << moment << victim;
-    }
-}
-
-void TestScan::survives()
-{
-    Desk desk;
-    QFETCH(QString, moment);
-    QFETCH(QString, victim);
-    const QMap<QString, QVariantMap> how = {
-        { "connect", { { "ConnectTime", 60000 } } },
-        { "answer box", { { "ReplyDelay", 0 } } },
-        { "failure box", { { "ConnectError", "org.bluez.Error.Failed" } } },
-    };
-    const QString address = desk.addDevice("Cans", {}, how[moment]);
-    const auto strike = [&] {
-        const QPointer<BluezQt::Device> struck = desk.device("Cans").data();
-        desk.agent->device.clear(); // as when another device comes in
-        if (victim == "daemon")
-            desk.kill();
-        else if (victim == "adapter")
-            desk.sim("RemoveAdapter", { "hci0" });
-        else
-            desk.sim("RemoveDevice", { address });
-        QTRY_VERIFY(!desk.device("Cans"));
-        QTRY_COMPARE(desk.manager()->adapters().isEmpty(), victim != "device");
-        QCOMPARE(struck.isNull(), moment == "scan"); // whose signal is being handled lives on
-    };
-    if (moment.endsWith("box"))
-        desk.whileBoxOpen = strike;
-    if (moment != "scan")
-        desk.pressConnect("Cans");
-    if (!moment.endsWith("box"))
-        strike();
-    QTRY_VERIFY(moment == "scan" || (!desk.boxes.isEmpty() && !QApplication::activeModalWidget()));
-
-    if (victim == "daemon")
-        desk.start();
-    else if (victim == "adapter")
-        desk.sim("AddAdapter", { "hci0", true });
-    QTRY_VERIFY(desk.manager()->usableAdapter());
-    desk.boxes.clear();
-    desk.open();
-    desk.addDevice("Next");
-    desk.pressConnect("Next");
-    QTRY_VERIFY(!desk.dialog->isVisible());
-    QCOMPARE(desk.boxes, QStringList({ success.arg("Next") }));
-    QVERIFY(!QApplication::overrideCursor());
 }
 
 QTEST_MAIN(TestScan)
