@@ -7,6 +7,8 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <sys/mman.h>
+#include <unistd.h>
 
 static void require(bool holds)
 {
@@ -21,12 +23,10 @@ static bool isOneWord(const QString &text)
     return quoted.match(text).hasMatch();
 }
 
-/** What a tool lists, what a device calls itself, what a file holds: any bytes at all. */
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+/** What a tool lists and what a sound server calls its things. */
+inline void profiles(const QByteArray &bytes)
 {
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));
     const QString text = QString::fromUtf8(bytes);
-
     const AudioProfile profile(text);
     require(profile.sinks >= 0 && profile.sinks <= 9 && profile.sources >= 0 && profile.sources <= 9);
     require(!profile.name.contains(QLatin1Char(':')) || profile.description.isEmpty());
@@ -38,9 +38,38 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9._: -]*\\z"));
     const QString word = audiocommands::record(text).mid(31).chopped(16);
     require(plain.match(word).hasMatch() ? word == text : isOneWord(word));
+}
 
-    const int length = static_cast<int>(strnlen(bytes.constData(), size));
-    require(latin1Text(bytes).size() == length);
-    require(utf8Text(bytes) == QString::fromUtf8(bytes.left(length)));
+/** What the PID file holds: a number, or 0 for everything else. */
+inline void pidText(const QByteArray &bytes)
+{
+    const QString text = latin1Text(bytes);
+    bool isNumber = false;
+    const int pid = text.toInt(&isNumber);
+    QString digits = text.trimmed();
+    static const QRegularExpression decimal(QStringLiteral("\\A[+-]?[0-9]+\\z"));
+    require(isNumber ? decimal.match(digits).hasMatch() : pid == 0);
+    if (isNumber && pid > 0)
+        require(digits.remove(QRegularExpression(QStringLiteral("\\A[+]?0*"))) == QString::number(pid));
+}
+
+/** What lies in the style sheet's place. */
+inline void styleSheet(const QByteArray &bytes)
+{
+    const int file = memfd_create("sheet", 0);
+    require(write(file, bytes.constData(), static_cast<size_t>(bytes.size())) == bytes.size());
+    QByteArray content;
+    require(readTrustedFile(QByteArray("/proc/self/fd/" + QByteArray::number(file)).constData(), &content));
+    close(file);
+    require(content == bytes);
+    const QByteArray shown = bytes.left(static_cast<int>(qstrnlen(bytes, static_cast<uint>(bytes.size()))));
+    require(latin1Text(content).toLatin1() == shown);
+    require(utf8Text(content) == QString::fromUtf8(shown));
+}
+
+/** Any bytes at all are given to one of them. */
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    TARGET(QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size)));
     return 0;
 }
