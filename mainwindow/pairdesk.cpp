@@ -11,6 +11,7 @@
 #include <BluezQt/Manager>
 #include <BluezQt/PendingCall>
 #include <QGuiApplication>
+#include <QPixmapCache>
 #include <QScreen>
 #include <QTimer>
 
@@ -36,6 +37,10 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     setFixedSize(size());
     setUpTable();
     setStyleSheet(userStyleSheet() + QLatin1String(disabledButtonRule));
+    // A style sheet gives every window colours of its own, under which the style keeps what it has drawn:
+    // each dialog adds to the store, which may grow to 10 MiB. This many KiB are enough for what is open at a
+    // time.
+    QPixmapCache::setCacheLimit(1024);
     setWindowIcon(QIcon(QStringLiteral(":/images/btlogo64.png")));
 
     m_settings.load();
