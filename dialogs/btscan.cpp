@@ -15,6 +15,7 @@
 #include <BluezQt/Device>
 #include <QDebug>
 #include <QMovie>
+#include <QTimer>
 
 btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     : QDialog(parent)
@@ -80,15 +81,24 @@ void btscan::startAnimation(QLabel *label, const char *file)
     m_busyMovie->start();
 }
 
-void btscan::appendRow(const BluezQt::DevicePtr &device)
+void btscan::list(const BluezQt::DevicePtr &device)
 {
-    const int row = ui->devices->rowCount();
-    ui->devices->insertRow(row);
-    auto *name = new QTableWidgetItem(device->name());
-    name->setData(Qt::UserRole, device->address());
-    ui->devices->setItem(row, 0, name);
-    ui->devices->setItem(row, 1, new QTableWidgetItem(BluezQt::Device::typeToString(device->type())));
+    m_found.append(device);
     m_listed.insert(device->address());
+}
+
+void btscan::appendRows()
+{
+    int row = ui->devices->rowCount();
+    ui->devices->setRowCount(row + m_found.size());
+    for (const BluezQt::DevicePtr &device : qAsConst(m_found)) {
+        auto *name = new QTableWidgetItem(device->name());
+        name->setData(Qt::UserRole, device->address());
+        ui->devices->setItem(row, 0, name);
+        ui->devices->setItem(row, 1, new QTableWidgetItem(BluezQt::Device::typeToString(device->type())));
+        ++row;
+    }
+    m_found.clear();
 }
 
 void btscan::traceRows(const QString &address) const
@@ -107,6 +117,7 @@ void btscan::populateTable()
     qDebug() << "populateTable";
     debugLog(3, "btscan::populateTable in");
     // The rows stay on purpose, emptied; what is filled in now goes below them.
+    appendRows();
     ui->devices->clearContents();
     m_listed.clear();
     const QList<BluezQt::DevicePtr> devices = m_agent->manager->devices();
@@ -116,9 +127,10 @@ void btscan::populateTable()
                  qUtf8Printable(BluezQt::Device::typeToString(device->type())));
         if (device->type() == BluezQt::Device::Uncategorized || device->isPaired())
             continue;
-        appendRow(device);
+        list(device);
         qDebug() << "new item" << device->name();
     }
+    appendRows();
     debugLog(3, "btscan::populateTable out");
 }
 
@@ -136,13 +148,18 @@ void btscan::onDeviceFound()
         debugLog(3, "btscan::onDeviceFound out");
         return;
     }
-    if (debugLogWrites(3))
+    if (debugLogWrites(3)) {
+        appendRows();
         traceRows(device->address());
+    }
     if (m_listed.contains(device->address())) {
         debugLog(3, "btscan::onDeviceFound found, skip");
         return;
     }
-    appendRow(device);
+    // Devices come in bursts, and each row by itself would hold up BluezQt: they all wait for the end of one.
+    if (m_found.isEmpty())
+        QTimer::singleShot(0, this, SLOT(appendRows()));
+    list(device);
     debugLog(3, "btscan::onDeviceFound out");
 }
 

@@ -43,6 +43,7 @@ private:
     bool m_busy; ///< a connect is under way, or the last one failed
     AppSettings *settings;
     QSet<QString> m_listed; ///< the addresses in the table, so that no device has to walk the rows
+    QList<BluezQt::DevicePtr> m_found; ///< listed, still without rows
 
     void setUpTable();
     /** Shows an animation, a resource or file path, on the label; null stands for the program's own. */
@@ -50,7 +51,7 @@ private:
     void populateTable();
     /** The address of the selected row, empty when there is none. */
     QString getDeviceAddress();
-    void appendRow(const BluezQt::DevicePtr &device);
+    void list(const BluezQt::DevicePtr &device);
     /** Writes a line for each row up to the one with this address. */
     void traceRows(const QString &address) const;
     void removeSelected();
@@ -74,4 +75,6 @@ private Q_SLOTS:
     void onCallFinished(BluezQt::PendingCall *pc);
     void on_remove_clicked();
     void onDeviceRemoved(BluezQt::DevicePtr device);
+    /** Makes rows of what has been listed since the last time. */
+    void appendRows();
 };
