@@ -17,13 +17,15 @@ static bool openPidFile(QFile *file, int flags, QIODevice::OpenMode mode)
     return descriptor >= 0 && file->open(descriptor, mode, QFileDevice::AutoCloseHandle);
 }
 
+int processId(const QByteArray &content) { return latin1Text(content).toInt(); }
+
 bool anotherInstanceRuns()
 {
     QFile file;
     if (!openPidFile(&file, O_RDONLY, QIODevice::ReadOnly))
         return false;
-    // Whatever is no number reads as 0, which makes kill() test our own process group: refused on purpose.
-    return kill(latin1Text(file.readAll()).toInt(), 0) == 0;
+    // 0 makes kill() test our own process group: what is no number is refused on purpose.
+    return kill(processId(file.readAll()), 0) == 0;
 }
 
 void writePidFile()

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
+
+/** The process ID in a PID file's content, 0 for whatever is no number. */
+int processId(const QByteArray &content);
+
 /**
  * Whether the PID file names a process that this user may signal. A PID file without a valid number counts
  * as process 0, the caller's own group, and so always as a running instance.

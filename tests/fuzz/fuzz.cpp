@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/singleinstance.h"
 #include "app/textfile.h"
 #include "dialogs/audiocommands.h"
 #include "dialogs/audioprofile.h"
@@ -43,14 +44,9 @@ inline void profiles(const QByteArray &bytes)
 /** What the PID file holds: a number, or 0 for everything else. */
 inline void pidText(const QByteArray &bytes)
 {
-    const QString text = latin1Text(bytes);
-    bool isNumber = false;
-    const int pid = text.toInt(&isNumber);
-    QString digits = text.trimmed();
     static const QRegularExpression decimal(QStringLiteral("\\A[+-]?[0-9]+\\z"));
-    require(isNumber ? decimal.match(digits).hasMatch() : pid == 0);
-    if (isNumber && pid > 0)
-        require(digits.remove(QRegularExpression(QStringLiteral("\\A[+]?0*"))) == QString::number(pid));
+    const qlonglong number = decimal.match(latin1Text(bytes).trimmed()).captured().toLongLong();
+    require(processId(bytes) == (number == static_cast<int>(number) ? number : 0));
 }
 
 /** What lies in the style sheet's place. */
