@@ -116,7 +116,7 @@ void btscan::populateTable()
 {
     qDebug() << "populateTable";
     debugLog(3, "btscan::populateTable in");
-    // The rows stay on purpose, emptied; what is filled in now goes below them.
+    // The rows stay on purpose, emptied, those not made yet too; what is filled in now goes below them.
     appendRows();
     ui->devices->clearContents();
     m_listed.clear();
