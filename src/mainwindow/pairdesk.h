@@ -3,10 +3,9 @@
 
 #include "app/appsettings.h"
 
-#include <BluezQt/Device>
+#include <BluezQt/Types>
 #include <QMainWindow>
 #include <QModelIndex>
-#include <QVector>
 
 class btagent;
 class QTableWidgetItem;
@@ -45,17 +44,6 @@ private:
     btagent *m_agent;
     AppSettings m_settings;
 
-    /** What a device's row depends on. */
-    struct Known {
-        QString address;
-        QString name;
-        BluezQt::Device::Type type;
-        bool paired;
-        bool connected;
-        bool operator==(const Known &other) const;
-    };
-    QVector<Known> m_known; ///< all devices as they were when the table was filled last
-
     void setUpTable();
     void connectSignals();
     void registerAgentAgain(bool operational);
@@ -71,9 +59,6 @@ private:
     void updateUi();
 
     void populateTable();
-    void fillTable();
-    /** Whether any row would look different from the last time that this was asked. */
-    bool devicesChanged();
     /** Sets the device buttons for the row of this item; without an item disables them. */
     void updateElements(QTableWidgetItem *item);
     /** The address of the selected row, empty when there is none. */

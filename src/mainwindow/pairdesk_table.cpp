@@ -15,21 +15,9 @@ void pairdesk::populateTable()
 {
     qDebug() << "populateTable";
     debugLog(3, "pairdesk::populateTable in");
-    // Most calls come from a changed signal strength, which no row shows. The log has its lines all the same.
-    if (devicesChanged() || debugLogWrites(3))
-        fillTable();
-    else
-        ui->devices->selectionModel()->clear();
-    updateElements(nullptr);
-    debugLog(3, "pairdesk::populateTable out");
-}
-
-void pairdesk::fillTable()
-{
     QTableWidget *table = ui->devices;
     // The rows stay on purpose: when fewer devices qualify than before, the last ones are left empty.
     table->clearContents();
-
     int row = 0;
     const QList<BluezQt::DevicePtr> devices = m_manager->devices();
     for (const BluezQt::DevicePtr &device : devices) {
@@ -54,39 +42,8 @@ void pairdesk::fillTable()
                        new QTableWidgetItem(device->isConnected() ? tr("Connected") : tr("Disconnected")));
         ++row;
     }
-}
-
-bool pairdesk::Known::operator==(const Known &other) const
-{
-    return address == other.address && name == other.name && type == other.type && paired == other.paired
-           && connected == other.connected;
-}
-
-bool pairdesk::devicesChanged()
-{
-    bool changed = false;
-    int count = 0;
-    const QList<BluezQt::AdapterPtr> adapters = m_manager->adapters();
-    for (const BluezQt::AdapterPtr &adapter : adapters) {
-        // Unlike the manager's list this one is shared, not copied device by device.
-        const QList<BluezQt::DevicePtr> devices = adapter->devices();
-        for (const BluezQt::DevicePtr &device : devices) {
-            const Known known{ device->address(), device->name(), device->type(), device->isPaired(),
-                               device->isConnected() };
-            if (count == m_known.size())
-                m_known.append(Known());
-            if (!(m_known[count] == known)) {
-                m_known[count] = known;
-                changed = true;
-            }
-            ++count;
-        }
-    }
-    if (count < m_known.size()) {
-        m_known.resize(count);
-        changed = true;
-    }
-    return changed;
+    updateElements(nullptr);
+    debugLog(3, "pairdesk::populateTable out");
 }
 
 void pairdesk::onPopupateTable() { populateTable(); }
