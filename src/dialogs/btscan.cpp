@@ -15,7 +15,6 @@
 #include <BluezQt/Device>
 #include <QDebug>
 #include <QMovie>
-#include <QTimer>
 
 btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     : QDialog(parent)
@@ -81,56 +80,45 @@ void btscan::startAnimation(QLabel *label, const char *file)
     m_busyMovie->start();
 }
 
-void btscan::list(const BluezQt::DevicePtr &device)
+void btscan::appendRow(const BluezQt::DevicePtr &device, const QString &type)
 {
-    m_found.append(device);
-    m_listed.insert(device->address());
+    const int row = ui->devices->rowCount();
+    ui->devices->insertRow(row);
+    auto *name = new QTableWidgetItem(device->name());
+    name->setData(Qt::UserRole, device->address());
+    ui->devices->setItem(row, 0, name);
+    ui->devices->setItem(row, 1, new QTableWidgetItem(type));
+    if (!m_rows.contains(device->address()))
+        m_rows.insert(device->address(), row);
 }
 
-void btscan::appendRows()
+bool btscan::isListed(const QString &address) const
 {
-    int row = ui->devices->rowCount();
-    ui->devices->setRowCount(row + m_found.size());
-    for (const BluezQt::DevicePtr &device : qAsConst(m_found)) {
-        auto *name = new QTableWidgetItem(device->name());
-        name->setData(Qt::UserRole, device->address());
-        ui->devices->setItem(row, 0, name);
-        ui->devices->setItem(row, 1, new QTableWidgetItem(BluezQt::Device::typeToString(device->type())));
-        ++row;
-    }
-    m_found.clear();
-}
-
-void btscan::traceRows(const QString &address) const
-{
-    for (int row = 0; row < ui->devices->rowCount(); ++row) {
-        const QTableWidgetItem *item = ui->devices->item(row, 0);
+    const int found = m_rows.value(address, -1);
+    const int last = found < 0 ? ui->devices->rowCount() - 1 : found;
+    for (int row = 0; row <= last; ++row) {
         debugLog(3, "btscan::onDeviceFound item: %x",
-                 static_cast<unsigned>(reinterpret_cast<quintptr>(item)));
-        if (item && item->data(Qt::UserRole).toString() == address)
-            return;
+                 static_cast<unsigned>(reinterpret_cast<quintptr>(ui->devices->item(row, 0))));
     }
+    return found >= 0;
 }
 
 void btscan::populateTable()
 {
     qDebug() << "populateTable";
     debugLog(3, "btscan::populateTable in");
-    // The rows stay on purpose, emptied, those not made yet too; what is filled in now goes below them.
-    appendRows();
-    ui->devices->clearContents();
-    m_listed.clear();
+    ui->devices->clearContents(); // the rows stay on purpose, emptied; what is filled in now goes below them
+    m_rows.clear();
     const QList<BluezQt::DevicePtr> devices = m_agent->manager->devices();
     for (const BluezQt::DevicePtr &device : devices) {
+        const QString type = BluezQt::Device::typeToString(device->type());
         debugLog(3, "btscan::populateTable dev: %s, address: %s, type: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()),
-                 qUtf8Printable(BluezQt::Device::typeToString(device->type())));
+                 qUtf8Printable(device->address()), qUtf8Printable(type));
         if (device->type() == BluezQt::Device::Uncategorized || device->isPaired())
             continue;
-        list(device);
+        appendRow(device, type);
         qDebug() << "new item" << device->name();
     }
-    appendRows();
     debugLog(3, "btscan::populateTable out");
 }
 
@@ -140,26 +128,20 @@ void btscan::onDeviceFound()
     const BluezQt::DevicePtr device = m_agent->device;
     if (!device)
         return;
+    const QString type = BluezQt::Device::typeToString(device->type());
     debugLog(3, "btscan::onDeviceFound dev: %s, address: %s, type: %s, appearance: %04x",
-             qUtf8Printable(device->name()), qUtf8Printable(device->address()),
-             qUtf8Printable(BluezQt::Device::typeToString(device->type())), device->appearance());
+             qUtf8Printable(device->name()), qUtf8Printable(device->address()), qUtf8Printable(type),
+             device->appearance());
     if (device->type() == BluezQt::Device::Uncategorized) {
         qDebug() << "Uncategarized with appearance:" << device->appearance();
         debugLog(3, "btscan::onDeviceFound out");
         return;
     }
-    if (debugLogWrites(3)) {
-        appendRows();
-        traceRows(device->address());
-    }
-    if (m_listed.contains(device->address())) {
+    if (isListed(device->address())) {
         debugLog(3, "btscan::onDeviceFound found, skip");
         return;
     }
-    // Devices come in bursts, and each row by itself would hold up BluezQt: they all wait for the end of one.
-    if (m_found.isEmpty())
-        QTimer::singleShot(0, this, SLOT(appendRows()));
-    list(device);
+    appendRow(device, type);
     debugLog(3, "btscan::onDeviceFound out");
 }
 

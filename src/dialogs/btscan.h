@@ -3,8 +3,8 @@
 
 #include <BluezQt/Types>
 #include <QDialog>
+#include <QHash>
 #include <QModelIndex>
-#include <QSet>
 
 class AppSettings;
 class Pin;
@@ -42,8 +42,7 @@ private:
     BluezQt::DevicePtr m_pairDevice; ///< being paired by itself, which nothing here asks for today
     bool m_busy; ///< a connect is under way, or the last one failed
     AppSettings *settings;
-    QSet<QString> m_listed; ///< the addresses in the table, so that no device has to walk the rows
-    QList<BluezQt::DevicePtr> m_found; ///< listed, still without rows
+    QHash<QString, int> m_rows; ///< the first row of each listed address, which no device has to search for
 
     void setUpTable();
     /** Shows an animation, a resource or file path, on the label; null stands for the program's own. */
@@ -51,9 +50,9 @@ private:
     void populateTable();
     /** The address of the selected row, empty when there is none. */
     QString getDeviceAddress();
-    void list(const BluezQt::DevicePtr &device);
-    /** Writes a line for each row up to the one with this address. */
-    void traceRows(const QString &address) const;
+    void appendRow(const BluezQt::DevicePtr &device, const QString &type);
+    /** Whether there is a row with this address; traces each row up to that one. */
+    bool isListed(const QString &address) const;
     void removeSelected();
     void closePin();
 
@@ -75,6 +74,4 @@ private Q_SLOTS:
     void onCallFinished(BluezQt::PendingCall *pc);
     void on_remove_clicked();
     void onDeviceRemoved(BluezQt::DevicePtr device);
-    /** Makes rows of what has been listed since the last time. */
-    void appendRows();
 };
