@@ -3,7 +3,8 @@
 #include "app/commandrunner.h"
 #include "app/debuglog.h"
 #include "app/paths.h"
-#include "app/textfile.h"
+#include "app/look.h"
+#include "app/text.h"
 #include "tests/support/files.h"
 
 #include <QTemporaryDir>
@@ -88,22 +89,22 @@ private Q_SLOTS:
         QVERIFY(late.standardOutput.toInt() > 0 && kill(late.standardOutput.toInt(), 0) == -1);
     }
 
-    void readsFiles()
+    void readsTexts()
     {
         const Aside aside(paths::styleSheet);
-        QVERIFY(userStyleSheet().isEmpty()
-                && put(QLatin1String(paths::styleSheet), QByteArray("/* \xe4 */\n\0cut", 12)));
-        QCOMPARE(userStyleSheet(), "/* ä */\n");
+        const QString rule = "QPushButton:disabled { background-color:#3f3f3f; }";
+        const QString sheet = QLatin1String(paths::styleSheet);
+        QCOMPARE(windowStyleSheet(), rule);
+        QVERIFY(put(sheet, QByteArray("/* \xe4 */\n\0cut", 12)));
+        QCOMPARE(windowStyleSheet(), "/* ä */\n" + rule);
+        if (chown(paths::styleSheet, 65534, 65534) == 0) // only root can
+            QCOMPARE(windowStyleSheet(), rule);
+        QVERIFY(QFile::remove(sheet) && mkfifo(paths::styleSheet, 0600) == 0);
+        QCOMPARE(windowStyleSheet(), rule);
 
-        QByteArray bytes("untouched");
-        QCOMPARE(mkfifo(qPrintable(path("fifo")), 0600), 0);
-        for (const char *name : { "missing", "fifo", "." })
-            QVERIFY2(!readTrustedFile(qPrintable(path(name)), &bytes) && bytes == "untouched", name);
-        const QByteArray binary("\xc3\xa4\0\xff\n", 5);
-        QVERIFY(put(path("binary"), binary) && readTrustedFile(qPrintable(path("binary")), &bytes));
-        QVERIFY(bytes == binary && utf8Text(bytes) == "ä");
-        const bool given = chown(qPrintable(path("binary")), 65534, 65534) == 0; // only root can
-        QCOMPARE(readTrustedFile(qPrintable(path("binary")), &bytes), !given);
+        QCOMPARE(utf8Text(QByteArray("\xc3\xa4\0\xff\n", 5)), "ä");
+        QCOMPARE(clippedUtf8(QString(1000, 'x')), QByteArray(1000, 'x'));
+        QCOMPARE(clippedUtf8('x' + QString(5000, 0xe4)), QString('x' + QString(499, 0xe4)).toUtf8());
     }
 
 private:

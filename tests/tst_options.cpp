@@ -17,11 +17,11 @@ private Q_SLOTS:
     void editsSettings();
 
 private:
-    const Aside m_log{ paths::debugLog };
+    const Aside m_log{ paths::debugLogFile };
 };
 
 /** The log's last line, without its beginning. */
-static QString traced() { return QString::fromUtf8(contentOf(paths::debugLog)).trimmed().section(")- ", -1); }
+static QString traced() { return QString::fromUtf8(contentOf(paths::debugLogFile)).trimmed().section(")- ", -1); }
 
 void TestOptions::editsSettings()
 {

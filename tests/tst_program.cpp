@@ -137,7 +137,7 @@ private Q_SLOTS:
 
     void writesLog()
     {
-        const auto log = QLatin1String(paths::debugLog);
+        const auto log = QLatin1String(paths::debugLogFile);
         QVERIFY(put(m_store, "[General]\ndebug=true\n") && put(log, "an earlier run\n"));
         Program program;
         QCOMPARE(kill(static_cast<pid_t>(program.processId()), SIGHUP), 0);
@@ -161,7 +161,7 @@ private Q_SLOTS:
 
 private:
     Aside m_pidFile{ paths::pidFile };
-    Aside m_log{ paths::debugLog };
+    Aside m_log{ paths::debugLogFile };
     TestBus m_bus;
     QString m_store = m_bus.path("config/Zemra/pairdesk.conf");
 };

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/debuglog.h"
 
+#include "app/regularfile.h"
+
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <fcntl.h>
 #include <sys/time.h>
 #include <unistd.h>
 
@@ -21,7 +24,9 @@ void debugLogOpen(const char *path, int level)
     if (s_openedOnce)
         return;
     s_openedOnce = 1;
-    s_file = std::fopen(path, "a+");
+    const int descriptor = openRegularFile(path, O_RDWR | O_APPEND | O_CREAT | O_NOFOLLOW);
+    if (descriptor >= 0)
+        s_file = fdopen(descriptor, "a+");
     if (!s_file) {
         debugLogClose();
         return;
@@ -39,11 +44,9 @@ void debugLogClose()
     s_open = 0;
 }
 
-bool debugLogWrites(int level) { return s_open && level == s_level; }
-
-void(debugLog)(int level, const char *format, ...)
+void debugLog(int level, const char *format, ...)
 {
-    if (!debugLogWrites(level))
+    if (!s_open || level != s_level)
         return;
 
     const time_t seconds = std::time(nullptr);

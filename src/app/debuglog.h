@@ -8,21 +8,16 @@
 
 /**
  * Sets the level whose lines are written and, the first time, opens the file (path in the file system's
- * encoding). Level 0 changes nothing. A file that cannot be opened leaves the log closed for good.
+ * encoding). Level 0 changes nothing. A file that cannot be opened, or that is a link or no regular file,
+ * leaves the log closed for good.
  */
 void debugLogOpen(const char *path, int level);
 
 /** Closes the log; a later debugLogOpen() does not open it again. */
 void debugLogClose();
 
-/** Whether lines of this level are written now. */
-bool debugLogWrites(int level);
-
 /**
  * Writes one line, printf-style with UTF-8 strings, when the log is open at just this level. A line longer
- * than 4095 bytes ends the process.
+ * than 4095 bytes ends the process: what comes from outside is passed by logPrintable().
  */
 void debugLog(int level, const char *format, ...) __attribute__((format(printf, 2, 3)));
-
-// Most arguments convert a name: not worth doing for a log that is closed.
-#define debugLog(level, ...) (debugLogWrites(level) ? (debugLog)(level, __VA_ARGS__) : static_cast<void>(0))

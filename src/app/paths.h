@@ -4,7 +4,7 @@
 /** The fixed files of the program; other parts of the desktop know them by these names. */
 namespace paths {
 constexpr char pidFile[] = "/tmp/.btdpid";
-constexpr char debugLog[] = "/tmp/pairdesk.log";
+constexpr char debugLogFile[] = "/tmp/pairdesk.log";
 constexpr char styleSheet[] = "/tmp/.config/default.css";
 constexpr char audioSample[] = "/tmp/sample.wav";
 }

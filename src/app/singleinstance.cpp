@@ -2,7 +2,8 @@
 #include "app/singleinstance.h"
 
 #include "app/paths.h"
-#include "app/textfile.h"
+#include "app/regularfile.h"
+#include "app/text.h"
 
 #include <QFile>
 
@@ -17,7 +18,7 @@ static bool openPidFile(QFile *file, int flags, QIODevice::OpenMode mode)
     return descriptor >= 0 && file->open(descriptor, mode, QFileDevice::AutoCloseHandle);
 }
 
-int processId(const QByteArray &content) { return latin1Text(content).toInt(); }
+int pidFromText(const QByteArray &text) { return latin1Text(text).toInt(); }
 
 bool anotherInstanceRuns()
 {
@@ -25,7 +26,7 @@ bool anotherInstanceRuns()
     if (!openPidFile(&file, O_RDONLY, QIODevice::ReadOnly))
         return false;
     // 0 makes kill() test our own process group: what is no number is refused on purpose.
-    return kill(processId(file.readAll()), 0) == 0;
+    return kill(pidFromText(file.readAll()), 0) == 0;
 }
 
 void writePidFile()

@@ -3,8 +3,8 @@
 
 #include <QByteArray>
 
-/** The process ID in a PID file's content, 0 for whatever is no number. */
-int processId(const QByteArray &content);
+/** The process ID in the text of a PID file, 0 for whatever is no number. */
+int pidFromText(const QByteArray &text);
 
 /**
  * Whether the PID file names a process that this user may signal. A PID file without a valid number counts

@@ -2,6 +2,7 @@
 #include "bluetooth/btagent.h"
 
 #include "app/debuglog.h"
+#include "app/text.h"
 #include "bluetooth/adapters.h"
 
 #include <BluezQt/Adapter>
@@ -53,8 +54,8 @@ void btagent::adapterAdded(BluezQt::AdapterPtr adapter)
 {
     debugLog(3, "btagent::adapterAdded in");
     if (adapter) {
-        debugLog(3, "btagent::adapterAdded adapter: %s, address: %s", qUtf8Printable(adapter->name()),
-                 qUtf8Printable(adapter->address()));
+        debugLog(3, "btagent::adapterAdded adapter: %s, address: %s", logPrintable(adapter->name()),
+                 logPrintable(adapter->address()));
     }
     qDebug() << "*** An adapter has been connected.";
     qDebug() << "";
@@ -72,8 +73,8 @@ void btagent::onDeviceFound(BluezQt::DevicePtr device)
 {
     debugLog(3, "btagent::onDeviceFound in");
     if (device) {
-        debugLog(3, "btagent::onDeviceFound dev: %s, address: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()));
+        debugLog(3, "btagent::onDeviceFound dev: %s, address: %s", logPrintable(device->name()),
+                 logPrintable(device->address()));
     }
     qDebug() << "*** Remote device found:" << device->name() << "(" << device->address() << ")";
     qDebug() << "";
@@ -87,8 +88,8 @@ void btagent::onDevicePropertyChanged(BluezQt::DevicePtr device)
     debugLog(3, "btagent::onDevicePropertyChanged in");
     if (device) {
         debugLog(3, "btagent::onDevicePropertyChanged dev: %s, address: %s, type: %s",
-                 qUtf8Printable(device->name()), qUtf8Printable(device->address()),
-                 qUtf8Printable(BluezQt::Device::typeToString(device->type())));
+                 logPrintable(device->name()), logPrintable(device->address()),
+                 logPrintable(BluezQt::Device::typeToString(device->type())));
     }
     this->device = device;
     emit agentDeviceChanged();
@@ -99,8 +100,8 @@ void btagent::onDeviceRemoved(BluezQt::DevicePtr device)
 {
     debugLog(3, "btagent::onDeviceRemoved in");
     if (device) {
-        debugLog(3, "btagent::onDeviceRemoved dev: %s, address: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()));
+        debugLog(3, "btagent::onDeviceRemoved dev: %s, address: %s", logPrintable(device->name()),
+                 logPrintable(device->address()));
     }
     qDebug() << "onDeviceRemoved address:" << device->address();
 }

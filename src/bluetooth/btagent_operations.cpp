@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Operations on one device, given by its address, and the slots on which their outcome comes back.
 #include "app/debuglog.h"
+#include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
 #include "bluetooth/eventloops.h"
@@ -26,9 +27,9 @@ void btagent::adoptDevice(const BluezQt::DevicePtr &operated)
 
 void btagent::pairDevice(const QString &address)
 {
-    debugLog(3, "btagent::pairDevice address: %s", qUtf8Printable(address));
+    debugLog(3, "btagent::pairDevice address: %s", logPrintable(address));
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
-        debugLog(3, "btagent::pairDevice dev: %s", qUtf8Printable(dev->name()));
+        debugLog(3, "btagent::pairDevice dev: %s", logPrintable(dev->name()));
         dev->pair();
         adoptDevice(dev);
         connect(dev.data(), &BluezQt::Device::pairedChanged, this, &btagent::onPairedChanged);
@@ -38,9 +39,9 @@ void btagent::pairDevice(const QString &address)
 
 void btagent::connectDevice(const QString &address)
 {
-    debugLog(3, "btagent::connectDevice address: %s", qUtf8Printable(address));
+    debugLog(3, "btagent::connectDevice address: %s", logPrintable(address));
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
-        debugLog(3, "btagent::connectDevice dev: %s", qUtf8Printable(dev->name()));
+        debugLog(3, "btagent::connectDevice dev: %s", logPrintable(dev->name()));
         BluezQt::PendingCall *pc = dev->connectToDevice();
         adoptDevice(dev);
         connect(dev.data(), &BluezQt::Device::connectedChanged, this, &btagent::onConnectedChanged);
@@ -52,9 +53,9 @@ void btagent::connectDevice(const QString &address)
 
 void btagent::disconnectDevice(const QString &address)
 {
-    debugLog(3, "btagent::disconnectDevice address: %s", qUtf8Printable(address));
+    debugLog(3, "btagent::disconnectDevice address: %s", logPrintable(address));
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
-        debugLog(3, "btagent::disconnectDevice dev: %s", qUtf8Printable(dev->name()));
+        debugLog(3, "btagent::disconnectDevice dev: %s", logPrintable(dev->name()));
         dev->disconnectFromDevice();
         adoptDevice(dev);
         connect(dev.data(), &BluezQt::Device::connectedChanged, this, &btagent::onConnectedChanged);
@@ -64,9 +65,9 @@ void btagent::disconnectDevice(const QString &address)
 
 void btagent::removeDevice(const QString &address)
 {
-    debugLog(3, "btagent::removeDevice address: %s", qUtf8Printable(address));
+    debugLog(3, "btagent::removeDevice address: %s", logPrintable(address));
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
-        debugLog(3, "btagent::removeDevice dev: %s", qUtf8Printable(dev->name()));
+        debugLog(3, "btagent::removeDevice dev: %s", logPrintable(dev->name()));
         const BluezQt::AdapterPtr adapter = usableOrFirstAdapter(manager);
         if (!adapter) {
             qDebug() << noAdaptersMessage;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What BlueZ asks of the pairing agent: everything is accepted before the callback returns.
 #include "app/debuglog.h"
+#include "app/text.h"
 #include "bluetooth/btagent.h"
 
 #include <BluezQt/Device>
@@ -16,8 +17,8 @@ void btagent::requestPinCode(BluezQt::DevicePtr device, const BluezQt::Request<Q
 {
     debugLog(3, "btagent::requestPinCode in");
     if (device) {
-        debugLog(3, "btagent::requestPinCode dev: %s, address: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()));
+        debugLog(3, "btagent::requestPinCode dev: %s, address: %s", logPrintable(device->name()),
+                 logPrintable(device->address()));
     }
     qDebug() << "requestPinCode address" << device->address();
     this->device = device;
@@ -30,8 +31,8 @@ void btagent::displayPinCode(BluezQt::DevicePtr device, const QString &pinCode)
 {
     debugLog(3, "btagent::displayPinCode in");
     if (device) {
-        debugLog(3, "btagent::displayPinCode dev: %s, address: %s, pin: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()), qUtf8Printable(pinCode));
+        debugLog(3, "btagent::displayPinCode dev: %s, address: %s, pin: %s", logPrintable(device->name()),
+                 logPrintable(device->address()), logPrintable(pinCode));
     }
     qDebug() << "displayPinCode address" << device->address() << ", pin:" << pinCode;
     this->device = device;
@@ -44,8 +45,8 @@ void btagent::requestPasskey(BluezQt::DevicePtr device, const BluezQt::Request<q
 {
     debugLog(3, "btagent::requestPasskey in");
     if (device) {
-        debugLog(3, "btagent::requestPasskey dev: %s, address: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()));
+        debugLog(3, "btagent::requestPasskey dev: %s, address: %s", logPrintable(device->name()),
+                 logPrintable(device->address()));
     }
     qDebug() << "requestPasskey address" << device->address();
     this->device = device;
@@ -57,8 +58,8 @@ void btagent::requestPasskey(BluezQt::DevicePtr device, const BluezQt::Request<q
 void btagent::displayPasskey(BluezQt::DevicePtr device, const QString &passkey, const QString &entered)
 {
     debugLog(3, "btagent::displayPasskey dev: %s, address: %s, passkey: %s, enterd: %s",
-             qUtf8Printable(device->name()), qUtf8Printable(device->address()), qUtf8Printable(passkey),
-             qUtf8Printable(entered));
+             logPrintable(device->name()), logPrintable(device->address()), logPrintable(passkey),
+             logPrintable(entered));
     qDebug() << "displayPasskey address" << device->address() << ", passkey:" << passkey
              << ", entered:" << entered;
     this->device = device;
@@ -74,7 +75,7 @@ void btagent::requestConfirmation(BluezQt::DevicePtr device, const QString &pass
     debugLog(3, "btagent::requestConfirmation in");
     if (device) {
         debugLog(3, "btagent::requestConfirmation dev: %s, address: %s, passkey: %s",
-                 qUtf8Printable(device->name()), qUtf8Printable(device->address()), qUtf8Printable(passkey));
+                 logPrintable(device->name()), logPrintable(device->address()), logPrintable(passkey));
     }
     qDebug() << "requestConfirmation address" << device->address() << ", passkey:" << passkey;
     this->device = device;
@@ -87,8 +88,8 @@ void btagent::requestAuthorization(BluezQt::DevicePtr device, const BluezQt::Req
 {
     debugLog(3, "btagent::requestAuthorization in");
     if (device) {
-        debugLog(3, "btagent::requestAuthorization dev: %s, address: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()));
+        debugLog(3, "btagent::requestAuthorization dev: %s, address: %s", logPrintable(device->name()),
+                 logPrintable(device->address()));
     }
     qDebug() << "requestAuthorization address" << device->address();
     this->device = device;
@@ -103,7 +104,7 @@ void btagent::authorizeService(BluezQt::DevicePtr device, const QString &uuid,
     if (device) {
         // The other request's name is meant.
         debugLog(3, "btagent::requestAuthorization dev: %s, address: %s, uuid: %s",
-                 qUtf8Printable(device->name()), qUtf8Printable(device->address()), qUtf8Printable(uuid));
+                 logPrintable(device->name()), logPrintable(device->address()), logPrintable(uuid));
     }
     qDebug() << "authorizeService address" << device->address() << ", uuid:" << uuid;
     this->device = device;

@@ -4,7 +4,8 @@
 
 #include "app/debuglog.h"
 #include "app/feedback.h"
-#include "app/textfile.h"
+#include "app/look.h"
+#include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
 #include "bluetooth/eventloops.h"
@@ -33,8 +34,7 @@ btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     setUpTable();
     ui->pairconnect->setEnabled(false);
     ui->remove->setEnabled(false);
-    setStyleSheet(userStyleSheet());
-    setStyleSheet(styleSheet() + QLatin1String(disabledButtonRule));
+    setStyleSheet(windowStyleSheet());
     setWindowIcon(QIcon(QStringLiteral(":/images/btlogo64.png")));
 
     connect(m_agent, SIGNAL(deviceAdded()), this, SLOT(onDeviceFound()));
@@ -112,8 +112,8 @@ void btscan::populateTable()
     const QList<BluezQt::DevicePtr> devices = m_agent->manager->devices();
     for (const BluezQt::DevicePtr &device : devices) {
         const QString type = BluezQt::Device::typeToString(device->type());
-        debugLog(3, "btscan::populateTable dev: %s, address: %s, type: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(device->address()), qUtf8Printable(type));
+        debugLog(3, "btscan::populateTable dev: %s, address: %s, type: %s", logPrintable(device->name()),
+                 logPrintable(device->address()), logPrintable(type));
         if (device->type() == BluezQt::Device::Uncategorized || device->isPaired())
             continue;
         appendRow(device, type);
@@ -130,7 +130,7 @@ void btscan::onDeviceFound()
         return;
     const QString type = BluezQt::Device::typeToString(device->type());
     debugLog(3, "btscan::onDeviceFound dev: %s, address: %s, type: %s, appearance: %04x",
-             qUtf8Printable(device->name()), qUtf8Printable(device->address()), qUtf8Printable(type),
+             logPrintable(device->name()), logPrintable(device->address()), logPrintable(type),
              device->appearance());
     if (device->type() == BluezQt::Device::Uncategorized) {
         qDebug() << "Uncategarized with appearance:" << device->appearance();
@@ -149,8 +149,8 @@ void btscan::onDevicePropertyChanged()
 {
     debugLog(3, "btscan::onDevicePropertyChanged in");
     if (const BluezQt::DevicePtr device = m_agent->device) {
-        debugLog(3, "btscan::onDevicePropertyChanged dev: %s, type: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(BluezQt::Device::typeToString(device->type())));
+        debugLog(3, "btscan::onDevicePropertyChanged dev: %s, type: %s", logPrintable(device->name()),
+                 logPrintable(BluezQt::Device::typeToString(device->type())));
     }
     debugLog(3, "btscan::onDevicePropertyChanged out");
 }
@@ -225,7 +225,7 @@ void btscan::onDeviceRemoved(BluezQt::DevicePtr /*device*/)
 
 void btscan::onDisplayPinCode(QString pin)
 {
-    debugLog(3, "btscan::onDisplayPinCode %s", qUtf8Printable(pin));
+    debugLog(3, "btscan::onDisplayPinCode %s", logPrintable(pin));
     m_pin = new Pin(pin, this);
     m_pin->show();
     debugLog(3, "btscan::onDisplayPinCode out");

@@ -3,6 +3,7 @@
 // the one that finds m_device still set reports it.
 #include "app/debuglog.h"
 #include "app/feedback.h"
+#include "app/text.h"
 #include "bluetooth/btagent.h"
 #include "bluetooth/eventloops.h"
 #include "dialogs/btscan.h"
@@ -88,7 +89,7 @@ void btscan::handleConnectReply()
 {
     const QString name = m_device->name();
     if (m_device->isConnected()) {
-        debugLog(3, "btscan::onCallFinished dev: %s is now connected", qUtf8Printable(name));
+        debugLog(3, "btscan::onCallFinished dev: %s is now connected", logPrintable(name));
         m_device.clear();
         showInformation(this, tr("Bluetooth Connection"),
                         tr("Device \"%1\" successfully connected.").arg(name));
@@ -122,7 +123,7 @@ void btscan::onConnectedChanged(bool connected)
     restoreCursor(); // the finished call may arrive in here: m_device is looked at afterwards
     if (m_device) {
         const QString name = m_device->name();
-        debugLog(3, "btscan::onConnectedChanged dev: %s, connected: %d", qUtf8Printable(name), connected);
+        debugLog(3, "btscan::onConnectedChanged dev: %s, connected: %d", logPrintable(name), connected);
         if (connected && m_device->isConnected()) {
             debugLog(3, "btscan::onConnectedChanged now close");
             const QString text = tr("Device \"%1\" successfully connected.").arg(name);
@@ -143,7 +144,7 @@ void btscan::onPairedChanged(bool paired)
         debugLog(3, "btscan::onPairedChanged out");
         return;
     }
-    debugLog(3, "btscan::onPairedChanged dev: %s, paired: %d", qUtf8Printable(m_pairDevice->name()), paired);
+    debugLog(3, "btscan::onPairedChanged dev: %s, paired: %d", logPrintable(m_pairDevice->name()), paired);
     if (paired && m_pairDevice->isPaired()) {
         debugLog(3, "btscan::onPairedChanged setTrusted");
         m_pairDevice->setTrusted(true)->waitForFinished();

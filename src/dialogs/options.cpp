@@ -34,7 +34,7 @@ void options::on_debug_clicked(bool checked)
 {
     debugLog(3, "pairdesk::on_debug_clicked %d", checked); // the main window's prefix is meant
     if (checked)
-        debugLogOpen(paths::debugLog, 3);
+        debugLogOpen(paths::debugLogFile, 3);
     else
         debugLogClose();
 }

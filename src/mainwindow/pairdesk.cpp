@@ -2,8 +2,8 @@
 #include "mainwindow/pairdesk.h"
 
 #include "app/debuglog.h"
+#include "app/look.h"
 #include "app/paths.h"
-#include "app/textfile.h"
 #include "bluetooth/btagent.h"
 #include "ui_pairdesk.h"
 
@@ -36,7 +36,7 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     setWindowFlags(Qt::Dialog);
     setFixedSize(size());
     setUpTable();
-    setStyleSheet(userStyleSheet() + QLatin1String(disabledButtonRule));
+    setStyleSheet(windowStyleSheet());
     // A style sheet gives every window colours of its own, under which the style keeps what it has drawn:
     // each dialog adds to the store, which may grow to 10 MiB. This many KiB are enough for what is open at a
     // time.
@@ -45,7 +45,7 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
 
     m_settings.load();
     if (m_settings.debug)
-        debugLogOpen(paths::debugLog, 3);
+        debugLogOpen(paths::debugLogFile, 3);
     debugLog(3, "pairdesk::pairdesk in");
 
     m_agent = new btagent(m_manager, &m_settings, this);

@@ -2,6 +2,7 @@
 // What the buttons do with the chosen device, and the two that end the program.
 #include "app/debuglog.h"
 #include "app/feedback.h"
+#include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
 #include "mainwindow/pairdesk.h"
@@ -32,7 +33,7 @@ void pairdesk::on_disconnect_clicked()
 void pairdesk::onCallFinished(QString action, QString error)
 {
     debugLog(3, "pairdesk::onCallFinished in");
-    debugLog(3, "pairdesk::onCallFinished %s,%s", qUtf8Printable(action), qUtf8Printable(error));
+    debugLog(3, "pairdesk::onCallFinished %s,%s", logPrintable(action), logPrintable(error));
     if (action == QLatin1String("connect")) {
         restoreCursor();
         if (!error.isEmpty())

@@ -3,7 +3,7 @@
 #include "app/commandrunner.h"
 #include "app/debuglog.h"
 #include "app/feedback.h"
-#include "app/textfile.h"
+#include "app/text.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
 
@@ -15,7 +15,7 @@
 
 bool pairdesk::executeCommand(const QString &command)
 {
-    debugLog(3, "pairdesk::executeCommand %s", qUtf8Printable(command));
+    debugLog(3, "pairdesk::executeCommand %s", logPrintable(command));
     qDebug() << "executeCommand:" << command;
     const CommandResult result = runShell(command, 30000);
     m_stdout = utf8Text(result.standardOutput);
@@ -120,7 +120,7 @@ void pairdesk::onAdapterAdded(BluezQt::AdapterPtr adapter)
 {
     debugLog(3, "pairdesk::onAdapterAdded in");
     if (adapter)
-        debugLog(3, "pairdesk::onAdapterAdded adapter: %s", qUtf8Printable(adapter->name()));
+        debugLog(3, "pairdesk::onAdapterAdded adapter: %s", logPrintable(adapter->name()));
     ui->add->setEnabled(!m_manager->adapters().isEmpty());
     QTimer::singleShot(1000, this, SLOT(onPopupateTable()));
     debugLog(3, "pairdesk::onAdapterAdded out");
@@ -130,7 +130,7 @@ void pairdesk::onAdapterRemoved(BluezQt::AdapterPtr adapter)
 {
     qDebug() << "onAdapterRemoved" << adapter->name();
     debugLog(3, "pairdesk::onAdapterRemoved in");
-    debugLog(3, "pairdesk::onAdapterRemoved adapter: %s", qUtf8Printable(adapter->name()));
+    debugLog(3, "pairdesk::onAdapterRemoved adapter: %s", logPrintable(adapter->name()));
     ui->add->setEnabled(!m_manager->adapters().isEmpty());
     QTimer::singleShot(1000, this, SLOT(onPopupateTable()));
     debugLog(3, "pairdesk::onAdapterRemoved out");

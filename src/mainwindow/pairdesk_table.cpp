@@ -2,6 +2,7 @@
 // The table of paired and connected devices, and the buttons that follow its chosen row.
 #include "app/debuglog.h"
 #include "app/feedback.h"
+#include "app/text.h"
 #include "bluetooth/btagent.h"
 #include "bluetooth/eventloops.h"
 #include "mainwindow/pairdesk.h"
@@ -24,8 +25,8 @@ void pairdesk::populateTable()
         if (!device)
             continue;
         const QString type = BluezQt::Device::typeToString(device->type());
-        debugLog(3, "pairdesk::populateTable dev: %s, type: %s", qUtf8Printable(device->name()),
-                 qUtf8Printable(type));
+        debugLog(3, "pairdesk::populateTable dev: %s, type: %s", logPrintable(device->name()),
+                 logPrintable(type));
         if (device->type() == BluezQt::Device::Uncategorized)
             continue;
         if (!device->isPaired() && !device->isConnected())
@@ -34,7 +35,7 @@ void pairdesk::populateTable()
         if (table->rowCount() <= row)
             table->insertRow(row);
         auto *name = new QTableWidgetItem(device->name());
-        debugLog(3, "pairdesk::populateTable address is %s", qUtf8Printable(device->address()));
+        debugLog(3, "pairdesk::populateTable address is %s", logPrintable(device->address()));
         name->setData(Qt::UserRole, device->address());
         table->setItem(row, 0, name);
         table->setItem(row, 1, new QTableWidgetItem(type));
@@ -63,7 +64,7 @@ void pairdesk::updateElements(QTableWidgetItem *item)
         ui->connect->setEnabled(!device->isConnected());
         ui->disconnect->setEnabled(device->isConnected());
     } else {
-        debugLog(3, "pairdesk::updateElements dev is null. address is %s", qUtf8Printable(address));
+        debugLog(3, "pairdesk::updateElements dev is null. address is %s", logPrintable(address));
     }
     ui->remove->setEnabled(true);
     debugLog(3, "pairdesk::updateElements out");
@@ -74,7 +75,7 @@ void pairdesk::on_devices_clicked(QModelIndex index)
     debugLog(3, "pairdesk::on_devices_clicked in row:%d, col:%d", index.row(), index.column());
     QTableWidgetItem *item = ui->devices->item(index.row(), 0);
     if (item)
-        debugLog(3, "pairdesk::on_devices_clicked item %s", qUtf8Printable(item->text()));
+        debugLog(3, "pairdesk::on_devices_clicked item %s", logPrintable(item->text()));
     updateElements(item);
     debugLog(3, "pairdesk::on_devices_clicked out");
 }
@@ -94,7 +95,7 @@ void pairdesk::onDeviceRemoved(BluezQt::DevicePtr device)
 {
     debugLog(3, "pairdesk::onDeviceRemoved in");
     keepSender(sender());
-    debugLog(3, "pairdesk::onDeviceRemoved dev: %s", qUtf8Printable(device->name()));
+    debugLog(3, "pairdesk::onDeviceRemoved dev: %s", logPrintable(device->name()));
     qDebug() << "onDeviceRemoved address:" << device->address();
     populateTable();
     restoreCursorAfterRemoval(m_manager);
@@ -106,7 +107,7 @@ void pairdesk::onConnectedChanged(bool connected)
 {
     debugLog(3, "pairdesk::onConnectedChanged in");
     const BluezQt::DevicePtr device = m_agent->device;
-    debugLog(3, "pairdesk::onConnectedChanged dev: %s, connected: %d", qUtf8Printable(device->name()),
+    debugLog(3, "pairdesk::onConnectedChanged dev: %s, connected: %d", logPrintable(device->name()),
              connected);
     qDebug() << "onConnectedChanged address:" << device->address()
              << ",connected:" << (connected ? "true" : "false");
@@ -120,7 +121,7 @@ void pairdesk::onDevicePropertyChanged(BluezQt::DevicePtr device)
     debugLog(3, "pairdesk::onDevicePropertyChanged in");
     if (device) {
         debugLog(3, "pairdesk::onDevicePropertyChanged dev: %s, paired: %d, connected: %d",
-                 qUtf8Printable(device->name()), device->isPaired(), device->isConnected());
+                 logPrintable(device->name()), device->isPaired(), device->isConnected());
         if (device->isPaired())
             populateTable();
     }

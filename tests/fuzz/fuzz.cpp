@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/singleinstance.h"
-#include "app/textfile.h"
+#include "app/text.h"
 #include "dialogs/audiocommands.h"
 #include "dialogs/audioprofile.h"
 
 #include <QRegularExpression>
 
 #include <cstdlib>
-#include <cstring>
-#include <sys/mman.h>
-#include <unistd.h>
 
 static void require(bool holds)
 {
@@ -46,21 +43,19 @@ inline void pidText(const QByteArray &bytes)
 {
     static const QRegularExpression decimal(QStringLiteral("\\A[+-]?[0-9]+\\z"));
     const qlonglong number = decimal.match(latin1Text(bytes).trimmed()).captured().toLongLong();
-    require(processId(bytes) == (number == static_cast<int>(number) ? number : 0));
+    require(pidFromText(bytes) == (number == static_cast<int>(number) ? number : 0));
 }
 
-/** What lies in the style sheet's place. */
-inline void styleSheet(const QByteArray &bytes)
+/** Bytes and texts of any length and encoding. */
+inline void texts(const QByteArray &bytes)
 {
-    const int file = memfd_create("sheet", 0);
-    require(write(file, bytes.constData(), static_cast<size_t>(bytes.size())) == bytes.size());
-    QByteArray content;
-    require(readTrustedFile(QByteArray("/proc/self/fd/" + QByteArray::number(file)).constData(), &content));
-    close(file);
-    require(content == bytes);
     const QByteArray shown = bytes.left(static_cast<int>(qstrnlen(bytes, static_cast<uint>(bytes.size()))));
-    require(latin1Text(content).toLatin1() == shown);
-    require(utf8Text(content) == QString::fromUtf8(shown));
+    require(latin1Text(bytes).toLatin1() == shown);
+    require(utf8Text(bytes) == QString::fromUtf8(shown));
+    const QString text = QString::fromUtf8(bytes);
+    const QByteArray clipped = clippedUtf8(text);
+    require(clipped.size() <= 1000 && text.startsWith(QString::fromUtf8(clipped)));
+    require(clipped.size() > 996 || clipped == text.toUtf8());
 }
 
 /** Any bytes at all are given to one of them. */

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/regularfile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+int openRegularFile(const char *path, int flags)
+{
+    // Opened first and examined afterwards, so that nobody swaps the file in between.
+    const int descriptor = ::open(path, flags | O_NONBLOCK | O_CLOEXEC, 0666);
+    struct stat status { };
+    if (descriptor < 0 || (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)))
+        return descriptor;
+    ::close(descriptor);
+    return -1;
+}
