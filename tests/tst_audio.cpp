@@ -97,18 +97,19 @@ void TestAudio::readsCards()
         { pipeWire, "bluez_card.", "18 headset-head-unit-msbc audio-gateway" },
         { pipeWire, "vheadset", "0  (none)" },
         { "Card #1 x\nProfiles:\n\t\ta: A\n\t\tb: B", "x", "2 b (none)" },
+        { "Card #1 x\nProfiles:\n\t\ta: A\n\tActive Profile:\n", "x", "1 a " },
     };
     for (const auto &[listing, key, told] : table) {
         const CardProfiles whole = parseCards(listing, key);
         const QString last = AudioProfile(whole.lines.value(whole.lines.size() - 1)).name;
-        const QString active = whole.active.isNull() ? "(none)" : whole.active;
+        const QString active = whole.active.value_or("(none)");
         QCOMPARE(QString("%1 %2 %3").arg(QString::number(whole.lines.size()), last, active), QString(told));
     }
     const CardProfiles whole = parseCards(pulseAudio, "VBox");
     for (int length = 0; length <= pulseAudio.size(); ++length) {
         const CardProfiles cut = parseCards(pulseAudio.left(length), "VBox");
-        QVERIFY(whole.active.startsWith(cut.active));
-        const QStringList sure = cut.lines.mid(0, cut.active.isNull() ? cut.lines.size() - 1 : -1);
+        QVERIFY(whole.active->startsWith(cut.active.value_or(QString())));
+        const QStringList sure = cut.lines.mid(0, cut.active ? -1 : cut.lines.size() - 1);
         QCOMPARE(sure, whole.lines.mid(0, sure.size()));
     }
 }

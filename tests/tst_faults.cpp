@@ -191,8 +191,6 @@ void TestFaults::survives()
             desk.sim("SetDevice", { address, QVariantMap{ { "Address", "no sense" } } });
         }
         QTRY_VERIFY(desk.manager()->usableAdapter());
-        // Whose signal is being handled lives on.
-        QVERIFY(struck || !desk.place.endsWith("box") || desk.place.startsWith("audiotest"));
     });
 
     desk.target = "Next";

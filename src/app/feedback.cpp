@@ -10,9 +10,11 @@ void showWaitCursor()
     QApplication::processEvents();
 }
 
+void restoreCursorOnly() { QApplication::restoreOverrideCursor(); }
+
 void restoreCursor()
 {
-    QApplication::restoreOverrideCursor();
+    restoreCursorOnly();
     QApplication::processEvents();
 }
 

@@ -11,6 +11,9 @@ void showWaitCursor();
 /** Pops one override cursor (harmless on an empty stack) and processes events once. */
 void restoreCursor();
 
+/** Pops one override cursor and leaves events alone. */
+void restoreCursorOnly();
+
 /**
  * Modal boxes with one OK button; they return when the box is closed. The text is shown as it is, never as
  * rich text: it may hold what a remote device calls itself.

@@ -88,5 +88,5 @@ public Q_SLOTS:
 
 private:
     BluezQt::DevicePtr findDevice(const QString &address) const;
-    void adoptDevice(const BluezQt::DevicePtr &operated);
+    void adoptAndCutConnections(const BluezQt::DevicePtr &operated);
 };

@@ -4,7 +4,6 @@
 #include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/eventloops.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Device>
@@ -19,7 +18,7 @@ BluezQt::DevicePtr btagent::findDevice(const QString &address) const
  * Makes the device the current one and cuts every connection from its signals, whoever made it: afterwards
  * the caller's own connection is the only one, however often the device was operated before.
  */
-void btagent::adoptDevice(const BluezQt::DevicePtr &operated)
+void btagent::adoptAndCutConnections(const BluezQt::DevicePtr &operated)
 {
     device = operated;
     QObject::disconnect(operated.data(), nullptr, nullptr, nullptr);
@@ -31,7 +30,7 @@ void btagent::pairDevice(const QString &address)
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
         debugLog(3, "btagent::pairDevice dev: %s", logPrintable(dev->name()));
         dev->pair();
-        adoptDevice(dev);
+        adoptAndCutConnections(dev);
         connect(dev.data(), &BluezQt::Device::pairedChanged, this, &btagent::onPairedChanged);
     }
     debugLog(3, "btagent::pairDevice out");
@@ -43,7 +42,7 @@ void btagent::connectDevice(const QString &address)
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
         debugLog(3, "btagent::connectDevice dev: %s", logPrintable(dev->name()));
         BluezQt::PendingCall *pc = dev->connectToDevice();
-        adoptDevice(dev);
+        adoptAndCutConnections(dev);
         connect(dev.data(), &BluezQt::Device::connectedChanged, this, &btagent::onConnectedChanged);
         pc->setUserData(QStringLiteral("connect"));
         connect(pc, &BluezQt::PendingCall::finished, this, &btagent::onCallFinished);
@@ -57,7 +56,7 @@ void btagent::disconnectDevice(const QString &address)
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
         debugLog(3, "btagent::disconnectDevice dev: %s", logPrintable(dev->name()));
         dev->disconnectFromDevice();
-        adoptDevice(dev);
+        adoptAndCutConnections(dev);
         connect(dev.data(), &BluezQt::Device::connectedChanged, this, &btagent::onConnectedChanged);
     }
     debugLog(3, "btagent::disconnectDevice out");
@@ -83,7 +82,6 @@ void btagent::removeDevice(const QString &address)
 void btagent::onPairedChanged(bool paired)
 {
     debugLog(3, "btagent::onPairedChanged paired: %d", paired);
-    keepSender(sender());
     qDebug() << "onPairedChanged address:" << device->address() << ",paired:" << (paired ? "true" : "false");
     emit pairedChanged(paired);
     debugLog(3, "btagent::onPairedChanged out");
@@ -92,7 +90,6 @@ void btagent::onPairedChanged(bool paired)
 void btagent::onConnectedChanged(bool connected)
 {
     debugLog(3, "btagent::onConnectedChanged connected: %d", connected);
-    keepSender(sender());
     qDebug() << "onConnectedChanged address:" << device->address()
              << ",connected:" << (connected ? "true" : "false");
     emit connectedChanged(connected);
@@ -103,7 +100,7 @@ void btagent::onCallFinished(BluezQt::PendingCall *pc)
 {
     debugLog(3, "btagent::onCallFinished in");
     if (pc) {
-        keepSender(pc);
+        pc->setParent(nullptr); // the library deletes it later, even if its device goes meanwhile
         const QString action = pc->userData().toString();
         const QString error = pc->errorText();
         emit callFinished(action, error);

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /** One profile of a sound card, read from its line in the output of "pactl list cards". */
 class AudioProfile {
 public:
@@ -22,7 +24,7 @@ public:
 /** What a listing of sound cards says of the cards whose blocks contain a key. */
 struct CardProfiles {
     QStringList lines; ///< one a profile, as listed
-    QString active; ///< name of the active profile, null where the listing tells none
+    std::optional<QString> active; ///< name of the active profile, if the listing tells one
 };
 
 /** Reads the output of "pactl list cards", which may be cut off anywhere. The key is matched

@@ -48,7 +48,6 @@ private:
     void showActiveProfile();
     void setCardProfile(const QString &name);
     void findSourceName();
-    static bool sampleExists();
 
 private Q_SLOTS:
     void on_close_clicked();

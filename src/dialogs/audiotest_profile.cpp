@@ -21,8 +21,8 @@ void audiotest::readCardProfiles()
     m_profileLines += found.lines;
     for (const QString &line : found.lines)
         m_profiles.append(new AudioProfile(line));
-    if (!found.active.isNull())
-        m_activeProfile = found.active;
+    if (found.active)
+        m_activeProfile = *found.active;
 }
 
 /** Makes the active profile the combo box's current one; to be called while m_ready is false. */

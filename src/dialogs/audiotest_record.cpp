@@ -20,7 +20,7 @@ void audiotest::findSourceName()
     m_sourceName = found ? key : QString();
 }
 
-bool audiotest::sampleExists()
+static bool sampleExists()
 {
     QFile sample(QString::fromLatin1(paths::audioSample));
     return QFileInfo(sample).isFile() && sample.open(QIODevice::ReadOnly)

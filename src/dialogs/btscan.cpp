@@ -8,7 +8,6 @@
 #include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/eventloops.h"
 #include "dialogs/pin.h"
 #include "ui_btscan.h"
 
@@ -217,9 +216,12 @@ void btscan::removeSelected()
 void btscan::onDeviceRemoved(BluezQt::DevicePtr /*device*/)
 {
     debugLog(3, "btscan::onDeviceRemoved in");
-    keepSender(sender());
     populateTable();
-    restoreCursorAfterRemoval(m_agent->manager);
+    // A manager that forgets the devices of a dead daemon must not hear of the next one in between.
+    if (m_agent->manager->isOperational())
+        restoreCursor();
+    else
+        restoreCursorOnly();
     debugLog(3, "btscan::onDeviceRemoved out");
 }
 

@@ -5,7 +5,6 @@
 #include "app/feedback.h"
 #include "app/text.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/eventloops.h"
 #include "dialogs/btscan.h"
 #include "ui_btscan.h"
 
@@ -44,7 +43,7 @@ void btscan::watchConnect(const BluezQt::DevicePtr &device, BluezQt::PendingCall
 void btscan::onCallFinished(BluezQt::PendingCall *pc)
 {
     debugLog(3, "btscan::onCallFinished in");
-    keepSender(pc);
+    pc->setParent(nullptr); // the library deletes it later, even if its device goes meanwhile
     const int code = pc->error();
     const QString text = pc->errorText();
     if (code == BluezQt::PendingCall::UnknownError && text == QLatin1String("InProgress"))
@@ -119,7 +118,6 @@ void btscan::handlePairingReply()
 void btscan::onConnectedChanged(bool connected)
 {
     debugLog(3, "btscan::onConnectedChanged in");
-    keepSender(sender());
     restoreCursor(); // the finished call may arrive in here: m_device is looked at afterwards
     if (m_device) {
         const QString name = m_device->name();

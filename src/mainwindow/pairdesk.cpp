@@ -15,12 +15,17 @@
 #include <QScreen>
 #include <QTimer>
 
+/** A call deletes itself, but one that was refused for want of a daemon belongs to nobody. */
+static void freeIfRefused(BluezQt::PendingCall *call)
+{
+    if (!call->parent())
+        delete call;
+}
+
 static void waitFor(BluezQt::PendingCall *call)
 {
     call->waitForFinished();
-    // A call deletes itself, but one that was refused for want of a daemon belongs to nobody.
-    if (!call->parent())
-        delete call;
+    freeIfRefused(call);
 }
 
 pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
@@ -103,12 +108,13 @@ void pairdesk::connectSignals()
 }
 
 /** A daemon that comes back knows nothing of the agent that its predecessor had. */
-void pairdesk::registerAgentAgain(bool operational)
+void pairdesk::registerAgentAgain()
 {
-    if (!operational)
+    // Not what the signal told: events have been processed since, and the daemon may be gone again.
+    if (!m_manager->isOperational())
         return;
-    m_manager->registerAgent(m_agent);
-    m_manager->requestDefaultAgent(m_agent);
+    freeIfRefused(m_manager->registerAgent(m_agent));
+    freeIfRefused(m_manager->requestDefaultAgent(m_agent));
 }
 
 void pairdesk::centre()

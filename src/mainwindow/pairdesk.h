@@ -46,7 +46,7 @@ private:
 
     void setUpTable();
     void connectSignals();
-    void registerAgentAgain(bool operational);
+    void registerAgentAgain();
     void centre();
 
     /**

@@ -54,7 +54,7 @@ QTableWidgetItem *pairdesk::itemForAddress(const QString &address) const
     return nullptr;
 }
 
-static bool canBeHeard(const BluezQt::DevicePtr &device)
+static bool isConnectedAudioDevice(const BluezQt::DevicePtr &device)
 {
     switch (device->type()) {
     case BluezQt::Device::Headset:
@@ -76,7 +76,7 @@ void pairdesk::on_devices_customContextMenuRequested(QPoint pos)
     const QString address = chosen->data(Qt::UserRole).toString();
     qDebug() << address;
     const BluezQt::DevicePtr device = m_manager->deviceForAddress(address);
-    if (device && canBeHeard(device)) {
+    if (device && isConnectedAudioDevice(device)) {
         QMenu menu(this);
         const QAction *test = menu.addAction(tr("Audio test"));
         if (menu.exec(ui->devices->viewport()->mapToGlobal(pos)) == test) {

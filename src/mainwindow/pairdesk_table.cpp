@@ -4,7 +4,6 @@
 #include "app/feedback.h"
 #include "app/text.h"
 #include "bluetooth/btagent.h"
-#include "bluetooth/eventloops.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
 
@@ -94,11 +93,14 @@ QString pairdesk::getDeviceAddress()
 void pairdesk::onDeviceRemoved(BluezQt::DevicePtr device)
 {
     debugLog(3, "pairdesk::onDeviceRemoved in");
-    keepSender(sender());
     debugLog(3, "pairdesk::onDeviceRemoved dev: %s", logPrintable(device->name()));
     qDebug() << "onDeviceRemoved address:" << device->address();
     populateTable();
-    restoreCursorAfterRemoval(m_manager);
+    // A manager that forgets the devices of a dead daemon must not hear of the next one in between.
+    if (m_manager->isOperational())
+        restoreCursor();
+    else
+        restoreCursorOnly();
     updateElements(nullptr);
     debugLog(3, "pairdesk::onDeviceRemoved out");
 }

@@ -31,7 +31,7 @@ inline void profiles(const QByteArray &bytes)
     const CardProfiles found = parseCards(text, QStringLiteral("x"));
     for (const QString &line : found.lines)
         require(text.contains(AudioProfile(line).name) || line.contains(QLatin1Char('\t')));
-    require(text.contains(found.active));
+    require(!found.active || text.contains(*found.active));
 
     static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9._: -]*\\z"));
     const QString word = audiocommands::record(text).mid(31).chopped(16);
