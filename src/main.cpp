@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/debuglog.h"
 #include "app/paths.h"
+#include "app/screenscale.h"
 #include "app/singleinstance.h"
 #include "mainwindow/pairdesk.h"
 
@@ -54,9 +55,11 @@ int main(int argc, char **argv)
     }
     writePidFile();
 
-    // The window has a fixed size in pixels: on a dense screen everything in it has to grow alike.
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // The window has a fixed size in pixels: with larger texts, everything in it has to grow alike.
+    if (desktopScales()) {
+        QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+        QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    }
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("pairdesk"));
 
