@@ -100,14 +100,14 @@ void TestAudio::readsCards()
         { "Card #1 x\nProfiles:\n\t\ta: A\n\tActive Profile:\n", "x", "1 a " },
     };
     for (const auto &[listing, key, told] : table) {
-        const CardProfiles whole = parseCards(listing, key);
+        const CardProfiles whole = parseCards(listing, key, headset);
         const QString last = AudioProfile(whole.lines.value(whole.lines.size() - 1)).name;
         const QString active = whole.active.value_or("(none)");
         QCOMPARE(QString("%1 %2 %3").arg(QString::number(whole.lines.size()), last, active), QString(told));
     }
-    const CardProfiles whole = parseCards(pulseAudio, "VBox");
+    const CardProfiles whole = parseCards(pulseAudio, "VBox", headset);
     for (int length = 0; length <= pulseAudio.size(); ++length) {
-        const CardProfiles cut = parseCards(pulseAudio.left(length), "VBox");
+        const CardProfiles cut = parseCards(pulseAudio.left(length), "VBox", headset);
         QVERIFY(whole.active->startsWith(cut.active.value_or(QString())));
         const QStringList sure = cut.lines.mid(0, cut.active ? -1 : cut.lines.size() - 1);
         QCOMPARE(sure, whole.lines.mid(0, sure.size()));

@@ -75,4 +75,12 @@ QStringList setCardProfile(const QString &cardKey, const QString &profile)
     return words;
 }
 
+QStringList setProfileOfCard(const QString &card, const QString &profile)
+{
+    QStringList words = { QStringLiteral("set-card-profile"), card, profile };
+    if (card.startsWith(QLatin1Char('-')) || profile.startsWith(QLatin1Char('-')))
+        words.prepend(QStringLiteral("--"));
+    return words;
+}
+
 }

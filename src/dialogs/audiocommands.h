@@ -25,4 +25,7 @@ QString record(const QString &source);
 /** The arguments with which "pactl" switches a card's profile. */
 QStringList setCardProfile(const QString &cardKey, const QString &profile);
 
+/** The same for a card by its own name: neither word is split or taken for an option. */
+QStringList setProfileOfCard(const QString &card, const QString &profile);
+
 }

@@ -23,6 +23,20 @@ AudioProfile::AudioProfile(QString line)
     sources = digitAfter(line, QStringLiteral("sources:"), 9);
 }
 
+/** Servers write an address with ":" or, where that would not do in a name, with "_". */
+static bool mentions(const QString &text, QString address)
+{
+    return text.contains(address, Qt::CaseInsensitive)
+           || text.contains(address.replace(QLatin1Char(':'), QLatin1Char('_')), Qt::CaseInsensitive);
+}
+
+static QString cardName(const QString &card)
+{
+    const QString marker = QStringLiteral("\n\tName: ");
+    const int start = card.indexOf(marker);
+    return start < 0 ? QString() : card.mid(start + marker.size()).section(QLatin1Char('\n'), 0, 0);
+}
+
 static void parseCard(const QString &card, CardProfiles *found)
 {
     const QString activeMarker = QStringLiteral("Active Profile:");
@@ -39,7 +53,7 @@ static void parseCard(const QString &card, CardProfiles *found)
     }
 }
 
-CardProfiles parseCards(const QString &listing, const QString &key)
+CardProfiles parseCards(const QString &listing, const QString &key, const QString &address)
 {
     const QString separator = QStringLiteral("Card #");
     CardProfiles found;
@@ -47,8 +61,22 @@ CardProfiles parseCards(const QString &listing, const QString &key)
         return found;
     const QStringList cards = listing.split(separator);
     for (const QString &card : cards) {
-        if (card.contains(key))
-            parseCard(card, &found);
+        if (!card.contains(key))
+            continue;
+        parseCard(card, &found);
+        if (found.card.isEmpty() || mentions(card, address))
+            found.card = cardName(card);
     }
     return found;
+}
+
+QString findMicrophone(const QString &listing, const QString &address)
+{
+    const QStringList sources = listing.split(QLatin1Char('\n'));
+    for (const QString &source : sources) {
+        const QString name = source.section(QLatin1Char('\t'), 1, 1);
+        if (name.startsWith(QLatin1String("bluez_input.")) && mentions(name, address))
+            return name;
+    }
+    return {};
 }

@@ -23,10 +23,20 @@ public:
 
 /** What a listing of sound cards says of the cards whose blocks contain a key. */
 struct CardProfiles {
+    QString
+        card; ///< what the server calls the card, of several the one with the headset's address; may be empty
     QStringList lines; ///< one a profile, as listed
     std::optional<QString> active; ///< name of the active profile, if the listing tells one
 };
 
-/** Reads the output of "pactl list cards", which may be cut off anywhere. The key is matched
- * case-sensitively. */
-CardProfiles parseCards(const QString &listing, const QString &key);
+/**
+ * Reads the output of "pactl list cards", which may be cut off anywhere. The key is matched
+ * case-sensitively.
+ */
+CardProfiles parseCards(const QString &listing, const QString &key, const QString &address);
+
+/**
+ * The first source in the output of "pactl list sources short" that bears the name PipeWire gives to the
+ * microphone of the headset with this address; empty when there is none.
+ */
+QString findMicrophone(const QString &listing, const QString &address);

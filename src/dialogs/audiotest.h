@@ -28,6 +28,7 @@ public:
 private:
     Ui::audiotest *ui;
     QString m_cardName; ///< the key that finds the headset's card in the listings
+    QString m_listedCard; ///< what the last listing calls that card; empty when it has none
     QString m_address;
     QString m_sourceName; ///< empty when the headset has no recording source
     QStringList m_profileLines;
@@ -48,6 +49,7 @@ private:
     void showActiveProfile();
     void setCardProfile(const QString &name);
     void findSourceName();
+    void findMicrophoneName();
 
 private Q_SLOTS:
     void on_close_clicked();

@@ -12,12 +12,14 @@ void audiotest::readCardProfiles()
 {
     qDeleteAll(m_profiles);
     m_profiles.clear();
+    m_listedCard.clear();
     const CommandResult result = runCommand(QStringLiteral("pactl"),
                                             { QStringLiteral("list"), QStringLiteral("cards") }, 30000,
                                             Messages::Untranslated);
     if (!result.finished || result.exitCode != 0)
         return;
-    const CardProfiles found = parseCards(QString::fromUtf8(result.standardOutput), m_cardName);
+    const CardProfiles found = parseCards(QString::fromUtf8(result.standardOutput), m_cardName, m_address);
+    m_listedCard = found.card;
     m_profileLines += found.lines;
     for (const QString &line : found.lines)
         m_profiles.append(new AudioProfile(line));
@@ -40,8 +42,15 @@ void audiotest::setCardProfile(const QString &name)
 {
     const CommandResult result = runCommand(QStringLiteral("pactl"),
                                             audiocommands::setCardProfile(m_cardName, name), 30000);
-    if (result.exitCode != 0)
-        showCritical(this, tr("Bluetooth Audio Profile"), QString::fromUtf8(result.standardError));
+    if (result.exitCode == 0)
+        return;
+    // PipeWire knows no card by what the headset calls itself.
+    if (m_pipewire && !m_listedCard.isEmpty() && m_listedCard != m_cardName) {
+        const QStringList arguments = audiocommands::setProfileOfCard(m_listedCard, name);
+        if (runCommand(QStringLiteral("pactl"), arguments, 30000).exitCode == 0)
+            return;
+    }
+    showCritical(this, tr("Bluetooth Audio Profile"), QString::fromUtf8(result.standardError));
 }
 
 void audiotest::on_profiles_currentIndexChanged(int index)

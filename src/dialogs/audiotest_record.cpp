@@ -20,6 +20,15 @@ void audiotest::findSourceName()
     m_sourceName = found ? key : QString();
 }
 
+/** PipeWire names sources by address, so that the key finds none. */
+void audiotest::findMicrophoneName()
+{
+    const QStringList arguments = QStringLiteral("list sources short").split(QLatin1Char(' '));
+    const CommandResult result = runCommand(QStringLiteral("pactl"), arguments, 30000,
+                                            Messages::Untranslated);
+    m_sourceName = findMicrophone(QString::fromUtf8(result.standardOutput), m_address);
+}
+
 static bool sampleExists()
 {
     QFile sample(QString::fromLatin1(paths::audioSample));
@@ -30,6 +39,8 @@ static bool sampleExists()
 void audiotest::on_record_clicked()
 {
     findSourceName();
+    if (m_pipewire && m_sourceName.isEmpty())
+        findMicrophoneName();
     if (m_sourceName.isEmpty()) {
         showCritical(this, tr("Audio source name"),
                      tr("An error occurred while getting the audio source name."));

@@ -28,9 +28,10 @@ inline void profiles(const QByteArray &bytes)
     const AudioProfile profile(text);
     require(profile.sinks >= 0 && profile.sinks <= 9 && profile.sources >= 0 && profile.sources <= 9);
     require(!profile.name.contains(QLatin1Char(':')) || profile.description.isEmpty());
-    const CardProfiles found = parseCards(text, QStringLiteral("x"));
+    const CardProfiles found = parseCards(text, QStringLiteral("x"), QStringLiteral("00:1A"));
     for (const QString &line : found.lines)
         require(text.contains(AudioProfile(line).name) || line.contains(QLatin1Char('\t')));
+    require(text.contains(found.card) && text.contains(findMicrophone(text, QStringLiteral("00:1A"))));
     require(!found.active || text.contains(*found.active));
 
     static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9._: -]*\\z"));
