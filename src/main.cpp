@@ -56,10 +56,12 @@ int main(int argc, char **argv)
     writePidFile();
 
     // The window has a fixed size in pixels: with larger texts, everything in it has to grow alike.
-    if (desktopScales()) {
-        QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-        QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    }
+    const bool scales = desktopScales();
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, scales); // Qt 6 cannot but scale
+#endif
+    using Policy = Qt::HighDpiScaleFactorRoundingPolicy;
+    QApplication::setHighDpiScaleFactorRoundingPolicy(scales ? Policy::PassThrough : Policy::Round);
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("pairdesk"));
 

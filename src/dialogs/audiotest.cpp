@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <unistd.h>
+#include <utility>
 
 audiotest::audiotest(BluezQt::Manager *manager, QString address, QWidget *parent)
     : QDialog(parent)
@@ -34,7 +35,7 @@ audiotest::audiotest(BluezQt::Manager *manager, QString address, QWidget *parent
     }
 
     readCardProfiles();
-    for (const AudioProfile *profile : qAsConst(m_profiles))
+    for (const AudioProfile *profile : std::as_const(m_profiles))
         ui->profiles->addItem(profile->description);
     showActiveProfile();
     findSourceName();
