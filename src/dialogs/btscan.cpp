@@ -5,6 +5,7 @@
 #include "app/debuglog.h"
 #include "app/feedback.h"
 #include "app/look.h"
+#include "app/tablekeys.h"
 #include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
@@ -45,6 +46,7 @@ btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     startAnimation(ui->gif, nullptr);
     populateTable();
     m_agent->scanDevices();
+    addTableKeys(ui->devices);
     debugLog(3, "btscan::btscan out");
 }
 

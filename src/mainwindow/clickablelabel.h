@@ -3,7 +3,8 @@
 
 #include <QLabel>
 
-/** A label that tells when a mouse button, whichever, goes down on it. */
+/** A label that tells when a mouse button, whichever, goes down on it, or Space or Return while it has the
+ * focus. */
 class ClickableLabel : public QLabel {
     Q_OBJECT
 
@@ -15,4 +16,6 @@ Q_SIGNALS:
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -4,7 +4,9 @@
 #include "app/debuglog.h"
 #include "app/look.h"
 #include "app/paths.h"
+#include "app/tablekeys.h"
 #include "bluetooth/btagent.h"
+#include "mainwindow/accessibleswitch.h"
 #include "ui_pairdesk.h"
 
 #include <BluezQt/Adapter>
@@ -68,6 +70,12 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     ui->remove->setEnabled(false);
     centre();
     m_bOk = false;
+    addTableKeys(ui->devices);
+    makeSwitchesAccessible();
+    // The switch comes last, so that the window opens with the focus on its first button. Qt 5 puts nothing
+    // directly behind the last widget.
+    setTabOrder(ui->ok, ui->pushme);
+    setTabOrder(ui->ok, ui->options);
     debugLog(3, "pairdesk::pairdesk out");
     QTimer::singleShot(500, this, SLOT(hcitoollescan()));
 }

@@ -3,6 +3,7 @@
 #include "app/debuglog.h"
 #include "app/feedback.h"
 #include "app/text.h"
+#include "mainwindow/accessibleswitch.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
 
@@ -46,7 +47,7 @@ void pairdesk::updateUi()
     debugLog(3, "pairdesk::updateUi in m_bOn:%d", m_bOn);
     ui->pushme->setPixmap(m_bOn ? QPixmap(QStringLiteral(":/images/on32b.png"))
                                 : QPixmap(QStringLiteral(":/images/off32b.png")));
-    ui->pushme->setAccessibleName(m_bOn ? tr("Bluetooth switch, on") : tr("Bluetooth switch, off"));
+    setAccessibleState(ui->pushme, m_bOn);
     ui->devices->setEnabled(m_bOn);
     ui->add->setEnabled(m_bOn && !m_manager->adapters().isEmpty());
     debugLog(3, "pairdesk::updateUi out");

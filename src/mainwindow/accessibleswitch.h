@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class ClickableLabel;
+
+/** Presents clickable labels to assistive technology as check boxes, where to toggle one is to click it. */
+void makeSwitchesAccessible();
+
+/** Tells assistive technology whether the switch is on. */
+void setAccessibleState(ClickableLabel *label, bool on);
