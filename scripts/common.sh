@@ -11,8 +11,9 @@ test_packages=(alsa-utils dbus-bin dbus-daemon libasound2-plugins nodejs procps 
     sound-theme-freedesktop)
 screen_packages=(imagemagick xdotool xvfb)
 real_packages=(alsa-utils at-spi2-core bluez bluez-test-tools busybox-static cpio dbus gir1.2-atspi-2.0 kmod
-    libasound2-plugins libglib2.0-bin libpam-systemd polkitd pulseaudio pulseaudio-module-bluetooth
-    pulseaudio-utils qemu-system-x86 sound-theme-freedesktop systemd x11-utils)
+    libasound2-plugins libglib2.0-bin libpam-systemd libspa-0.2-bluetooth pipewire pipewire-bin
+    pipewire-pulse polkitd pulseaudio pulseaudio-module-bluetooth
+    pulseaudio-utils qemu-system-x86 sound-theme-freedesktop systemd wireplumber x11-utils)
 
 # Installs those of the packages that are missing; a prepared machine needs neither rights nor a network.
 need() {

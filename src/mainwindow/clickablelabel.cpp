@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mainwindow/clickablelabel.h"
 
+#include "mainwindow/accessibleswitch.h"
+
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
@@ -9,6 +11,7 @@ ClickableLabel::ClickableLabel(QWidget *parent, Qt::WindowFlags flags)
     : QLabel(parent, flags)
 {
     setFocusPolicy(Qt::TabFocus);
+    makeSwitchesAccessible(); // before anybody asks what this label is
 }
 
 void ClickableLabel::mousePressEvent(QMouseEvent * /*event*/) { emit clicked(); }

@@ -6,7 +6,6 @@
 #include "app/paths.h"
 #include "app/tablekeys.h"
 #include "bluetooth/btagent.h"
-#include "mainwindow/accessibleswitch.h"
 #include "ui_pairdesk.h"
 
 #include <BluezQt/Adapter>
@@ -71,7 +70,6 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     centre();
     m_bOk = false;
     addTableKeys(ui->devices);
-    makeSwitchesAccessible();
     // The switch comes last, so that the window opens with the focus on its first button. Qt 5 puts nothing
     // directly behind the last widget.
     setTabOrder(ui->ok, ui->pushme);
