@@ -113,7 +113,8 @@ private Q_SLOTS:
             QVERIFY(desk.takeCalls().last().startsWith(name, Qt::CaseInsensitive));
             QCOMPARE(agent.device.isNull(), name == "remove");
             const QString start = "OP address: nobody / OP out / OP address: LAMP / OP dev: Lamp / OP out / ";
-            const auto trace = [&] { return traced().replace(lamp, "LAMP").replace(name + "Device", "OP"); };
+            const QString method = name + "Device";
+            const auto trace = [&] { return traced().replace(lamp, "LAMP").replace(method, "OP"); };
             QTRY_VERIFY2(trace().startsWith(start) && trace().endsWith(end), qPrintable(trace()));
             QVERIFY(!trace().contains("another connection"));
         }
