@@ -72,10 +72,6 @@ void TestSound::setProfile(const QByteArray &name) const
 
 void TestSound::initTestCase()
 {
-    for (const char *tool : { "pulseaudio", "pactl", "parecord", "amixer" }) {
-        if (QStandardPaths::findExecutable(tool).isEmpty())
-            QSKIP("the sound server's tools are not installed");
-    }
     const QByteArray socket = path("native").toUtf8();
     qputenv("HOME", m_folder.path().toUtf8());
     qputenv("XDG_RUNTIME_DIR", m_folder.path().toUtf8());
