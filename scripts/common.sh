@@ -4,7 +4,7 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-build_packages=(cmake g++ libkf5bluezqt-dev libx11-dev ninja-build qtbase5-dev)
+build_packages=(cmake g++ libkf5bluezqt-dev libx11-dev ninja-build qtbase5-dev qttools5-dev)
 run_packages=(alsa-utils bluez procps psmisc pulseaudio-utils sound-theme-freedesktop)
 demo_packages=(dbus-bin dbus-daemon procps python3-dbus python3-gi)
 test_packages=(alsa-utils dbus-bin dbus-daemon libasound2-plugins nodejs procps psmisc pulseaudio pulseaudio-utils

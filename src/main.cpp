@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/debuglog.h"
+#include "app/language.h"
 #include "app/paths.h"
 #include "app/screenscale.h"
 #include "app/singleinstance.h"
@@ -64,6 +65,7 @@ int main(int argc, char **argv)
     QApplication::setHighDpiScaleFactorRoundingPolicy(scales ? Policy::PassThrough : Policy::Round);
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("pairdesk"));
+    speakUsersLanguage();
 
     s_manager = new BluezQt::Manager;
     // Without a bus the job would never end.
