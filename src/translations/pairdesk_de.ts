@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>PIN am Gerät eingeben:</translation>
+        <translation>PIN für das Gerät:</translation>
     </message>
     <message>
         <source>Close</source>

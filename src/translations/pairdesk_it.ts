@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Inserire questo PIN:</translation>
+        <translation>PIN da inserire:</translation>
     </message>
     <message>
         <source>Close</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Digite este PIN:</translation>
+        <translation>Insira este PIN:</translation>
     </message>
     <message>
         <source>Close</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Введіть PIN на пристрої:</translation>
+        <translation>Введіть цей PIN-код:</translation>
     </message>
     <message>
         <source>Close</source>
