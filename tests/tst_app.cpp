@@ -2,8 +2,9 @@
 #include "app/appsettings.h"
 #include "app/commandrunner.h"
 #include "app/debuglog.h"
-#include "app/paths.h"
+#include "app/language.h"
 #include "app/look.h"
+#include "app/paths.h"
 #include "app/text.h"
 #include "tests/support/files.h"
 
@@ -68,6 +69,16 @@ private Q_SLOTS:
             QFile::remove(store);
             settings.save();
             QCOMPARE(contentOf(store), "[General]\naudioprofile=" + stored);
+        }
+    }
+
+    void choosesLanguage()
+    {
+        for (const char *chosen : { "de-AT=de", "de,de-DE,de-Latn-DE=de", "nl-NL,fr-CA,en=fr",
+                                    "an-ES,es,en=es", "pt-PT=pt_BR", "zh-CN=zh_CN", "zh-Hans-SG=zh_CN",
+                                    "zh-TW,ja=ja", "zh-Hant-TW,zh=", "en-GB,de=", "C,de=", "nl=", "=" }) {
+            const QString languages = QString(chosen).section('=', 0, 0);
+            QCOMPARE(languages + '=' + catalogueFor(languages.split(',')), chosen);
         }
     }
 
