@@ -6,6 +6,7 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 build_packages=(cmake g++ libkf5bluezqt-dev libx11-dev ninja-build qtbase5-dev qttools5-dev)
+qt='' # what the presets end in that build with another Qt than usual
 run_packages=(alsa-utils bluez procps psmisc pulseaudio-utils sound-theme-freedesktop)
 demo_packages=(dbus-bin dbus-daemon procps python3-dbus python3-gi)
 test_packages=(alsa-utils dbus-bin dbus-daemon libasound2-plugins nodejs procps psmisc pulseaudio pulseaudio-utils
@@ -30,10 +31,16 @@ need() {
         apt-get install -qq --no-install-recommends $missing >/dev/null
 }
 
+use_qt6() {
+    qt=-qt6
+    build_packages=(cmake g++ libkf6bluezqt-dev libx11-dev ninja-build qt6-base-dev qt6-tools-dev qt6-l10n-tools)
+}
+
+# Builds a preset, with the chosen Qt, into $root/build/PRESET$qt.
 build() {
     local log
-    echo "Building the preset $1"
-    log=$(cd "$root" && cmake --preset "$1" 2>&1 && cmake --build --preset "$1" 2>&1) || {
+    echo "Building the preset $1$qt"
+    log=$(cd "$root" && cmake --preset "$1$qt" 2>&1 && cmake --build --preset "$1$qt" 2>&1) || {
         echo "$log" >&2
         return 1
     }

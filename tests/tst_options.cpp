@@ -21,7 +21,10 @@ private:
 };
 
 /** The log's last line, without its beginning. */
-static QString traced() { return QString::fromUtf8(contentOf(paths::debugLogFile)).trimmed().section(")- ", -1); }
+static QString traced()
+{
+    return QString::fromUtf8(contentOf(paths::debugLogFile)).trimmed().section(")- ", -1);
+}
 
 void TestOptions::editsSettings()
 {
