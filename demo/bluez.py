@@ -139,6 +139,7 @@ class Device(Node):
         self.adapter = adapter
         self.how = how
         self.job = None
+        self.held_back = []  # the second halves of changes and answers
 
     def busy(self):
         return self.job is not None and not self.job.over
@@ -193,7 +194,7 @@ class Device(Node):
         if not agent:
             raise failure('AuthenticationFailed', 'Authentication Failed')
         if 'Pin' in self.how:
-            yield agent.ask('DisplayPinCode', self.path, self.how['Pin'])
+            yield agent.ask('DisplayPinCode', self.path, str(self.how['Pin']))
         elif 'Passkey' in self.how:
             yield agent.ask('DisplayPasskey', self.path, self.how['Passkey'], 0)
         else:
@@ -211,11 +212,15 @@ class Device(Node):
         delay = self.how.get('ReplyDelay', 20)
         if self.how.get('ReplyFirst', False):
             reply()
+            second = lambda: self.change(**props)
+        else:
+            self.change(**props)
+            second = reply
+        if delay < 0:
+            self.held_back.append(second)
+        else:
             yield pause(delay)
-        self.change(**props)
-        if delay >= 0 and not self.how.get('ReplyFirst', False):
-            yield pause(delay)
-            reply()
+            second()
 
 
 class Adapter(Node):

@@ -1,72 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commandrunner.h"
-#include "app/paths.h"
 #include "dialogs/audiocommands.h"
-#include "dialogs/audiotest.h"
-#include "mainwindow/pairdesk.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/files.h"
-#include "tests/support/testbus.h"
+#include "dialogs/audioprofile.h"
+#include "tests/support/desk.h"
 
-#include <BluezQt/Device>
 #include <QtTest>
-#include <QtWidgets>
 
 using namespace audiocommands;
 
-static const char headset[] = "00:1A:7D:10:00:01";
-static const char card[] = "bluez_card.00_1A_7D_10_00_01";
+static const char address[] = "00:1A:7D:10:00:01";
 
 class TestAudio : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
     void readsProfileLines();
     void readsCards();
     void writesCommands();
-    void usesPulseAudio();
-    void usesPipeWire();
-    void opensFromMenu();
-
-private:
-    QTemporaryDir m_folder; // the current one, too
-    const Aside m_sample{ paths::audioSample };
+    void works_data();
+    void works();
 };
-
-/** The machine's own sound server is none of the tests' business. */
-void TestAudio::initTestCase()
-{
-    QVERIFY(QDir::setCurrent(m_folder.path()));
-    qputenv("PATH", m_folder.path().toUtf8() + ':' + qgetenv("PATH"));
-    QVERIFY(put("ps", "#!/bin/sh\necho 2 grep -q pipewire; cat \"$PAIRDESK_DEMO_STATE/ps\" 2>/dev/null"));
-    QVERIFY(QFile::setPermissions("ps", QFile::ReadOwner | QFile::ExeOwner));
-}
-
-void TestAudio::cleanup() { QVERIFY(!QFile::exists("owned") && !QApplication::overrideCursor()); }
-
-static QStringList soundCalls(const TestBus &bus)
-{
-    return bus.toolCalls().filter(QRegularExpression("^(amixer|killall|pactl|parecord|pw-play)"));
-}
-
-static void click(const audiotest &dialog, const QStringList &buttons)
-{
-    for (const QString &button : buttons)
-        dialog.findChild<QPushButton *>(button)->click();
-}
-
-/** The chosen profile, what is enabled and the playback buttons that are shown. */
-static QString state(const audiotest &dialog)
-{
-    QStringList words{ dialog.findChild<QComboBox *>("profiles")->currentText() };
-    for (const char *name : { "output", "input", "record", "play" })
-        words += QStringList(name).mid(dialog.findChild<QWidget *>(name)->isEnabled() ? 0 : 1);
-    for (const char *name : { "leftbt", "monobt", "rightbt" })
-        words += QStringList(name).mid(dialog.findChild<QWidget *>(name)->isHidden() ? 1 : 0);
-    return words.join('|');
-}
 
 void TestAudio::readsProfileLines()
 {
@@ -100,14 +53,14 @@ void TestAudio::readsCards()
         { "Card #1 x\nProfiles:\n\t\ta: A\n\tActive Profile:\n", "x", "1 a " },
     };
     for (const auto &[listing, key, told] : table) {
-        const CardProfiles whole = parseCards(listing, key, headset);
+        const CardProfiles whole = parseCards(listing, key, address);
         const QString last = AudioProfile(whole.lines.value(whole.lines.size() - 1)).name;
         const QString active = whole.active.value_or("(none)");
         QCOMPARE(QString("%1 %2 %3").arg(QString::number(whole.lines.size()), last, active), QString(told));
     }
-    const CardProfiles whole = parseCards(pulseAudio, "VBox", headset);
+    const CardProfiles whole = parseCards(pulseAudio, "VBox", address);
     for (int length = 0; length <= pulseAudio.size(); ++length) {
-        const CardProfiles cut = parseCards(pulseAudio.left(length), "VBox", headset);
+        const CardProfiles cut = parseCards(pulseAudio.left(length), "VBox", address);
         QVERIFY(whole.active->startsWith(cut.active.value_or(QString())));
         const QStringList sure = cut.lines.mid(0, cut.active ? -1 : cut.lines.size() - 1);
         QCOMPARE(sure, whole.lines.mid(0, sure.size()));
@@ -116,9 +69,9 @@ void TestAudio::readsCards()
 
 void TestAudio::writesCommands()
 {
-    QCOMPARE(listSinks(sinkKey(headset, "a2dp_sink")),
+    QCOMPARE(listSinks(sinkKey(address, "a2dp_sink")),
              QString("pactl list sinks short | grep bluez_sink.00_1A_7D_10_00_01.a2dp_sink"));
-    QCOMPARE(listSources(sourceKey(headset, "")),
+    QCOMPARE(listSources(sourceKey(address, "")),
              QString("pactl list sources short | grep bluez_source.00_1A_7D_10_00_01. | grep -v monitor"));
     QCOMPARE(record(" Mk-2  x:y "), QString("parecord --channels=1 --device= Mk-2  x:y  /tmp/sample.wav"));
     QCOMPARE(setCardProfile("My  Headset ", "off").join('|'), QString("set-card-profile|My|Headset|off"));
@@ -140,162 +93,57 @@ void TestAudio::writesCommands()
     }
 }
 
-static const char balance[] = "amixer -D pulse set Master ";
-
-/** The calls for left, mono and right, the balance's return coming later. */
-static QStringList playCalls(const QString &play)
+/** The dialog itself writes no log. */
+void TestAudio::works_data()
 {
-    return { balance + QString("100%,0%"),   play.arg("left"),
-             balance + QString("100%,100%"), play.arg("center"),
-             balance + QString("0%,100%"),   play.arg("right"),
-             balance + QString("100%,100%"), balance + QString("100%,100%") };
+    QTest::addColumn<bool>("log");
+    QTest::newRow("log open") << true;
 }
 
-/** The other headset is in another state, which must not show. */
-void TestAudio::usesPulseAudio()
+/** With PulseAudio, and with PipeWire, where what the device is called is the key to everything. */
+void TestAudio::works()
 {
-    TestBus bus;
-    QVERIFY(put(bus.path("bluez_card.00_1A_7D_10_00_03"), "off"));
-    QVERIFY(put(paths::audioSample, "of an earlier run"));
-    audiotest dialog(bus.manager(), headset, nullptr);
-    QVERIFY(!QFile::exists(paths::audioSample));
-    QCOMPARE(state(dialog), QString("High Fidelity Playback (A2DP Sink)|output|leftbt|rightbt"));
-    const QString upload =
-        "pactl upload-sample /usr/share/sounds/freedesktop/stereo/audio-channel-front-%1.oga %1";
-    QStringList calls{ upload.arg("left"), upload.arg("right"),      upload.arg("center"),
-                       "pactl list cards", "pactl list sinks short", "pactl list sources short" };
-    click(dialog, { "leftbt", "monobt", "rightbt" });
-    calls += playCalls("pactl play-sample %1");
-    QTRY_COMPARE(soundCalls(bus), calls);
-
-    auto *profiles = dialog.findChild<QComboBox *>("profiles");
-    profiles->setCurrentIndex(2);
-    QCOMPARE(state(dialog), QString("Off|leftbt|rightbt"));
-    profiles->setCurrentIndex(1);
-    QCOMPARE(state(dialog), QString("Handsfree Head Unit (HFP)|output|input|record|monobt"));
-    QString blocked;
-    QTimer::singleShot(0, &dialog, [&] {
-        blocked = state(dialog) + QString::number(QApplication::overrideCursor()->shape());
-    });
-    click(dialog, { "record" });
-    QCOMPARE(blocked, QString("Handsfree Head Unit (HFP)|output|input|monobt3"));
-    QCOMPARE(state(dialog), QString("Handsfree Head Unit (HFP)|output|input|record|play|monobt"));
-
-    QVERIFY(put(paths::audioSample, ""));
-    bus.scriptTool("parecord", "", 1);
-    QStringList seen;
-    closeBox(&seen);
-    click(dialog, { "record" });
-    QCOMPARE(state(dialog), QString("Handsfree Head Unit (HFP)|output|input|record|monobt"));
-    bus.scriptTool("pactl-list-sources-short", "1\tbluez_source.00_1A_7D_10_00_03.handsfree_head_unit");
-    closeBox(&seen);
-    click(dialog, { "record" });
-
-    const QString script = bus.path(QString("tools/pactl-set-card-profile-%1-off.").arg(card));
-    QVERIFY(put(script + "err", "<b>Failure</b>: Kein Gerät\n") && put(script + "status", "1"));
-    closeBox(&seen);
-    closeBox(&seen);
-    profiles->setCurrentIndex(2);
-    QCOMPARE(state(dialog), QString("Handsfree Head Unit (HFP)|output|input|record|monobt"));
-    QCOMPARE(
-        seen.join('|'),
-        QString(
-            "Sample Record: An error occurred while reconding the audio sample.\nThe file is empty|Audio "
-            "source name: An error occurred while getting the audio source name.|Bluetooth Audio Profile: "
-            "<b>Failure</b>: Kein Gerät\n|Bluetooth Audio Profile: An error occure while changing profile"));
-    bus.scriptTool("pactl-list-cards", QByteArray("Card #0 ") + card + "\n Profiles:\n\ta2dp_sink: A");
-    closeBox(&seen);
-    profiles->setCurrentIndex(0);
-    profiles->setCurrentIndex(2); // no longer there
-    QCOMPARE(soundCalls(bus).filter("set-card-profile").size(), 4);
-}
-
-/** The name of the device is the key to everything. */
-void TestAudio::usesPipeWire()
-{
-    TestBus bus;
+    Desk desk("audio", "");
+    QTemporaryDir folder;
+    QVERIFY(QDir::setCurrent(folder.path()));
+    put("/tmp/sample.wav", "of an earlier run");
+    put(desk.path("bluez_card.00_1A_7D_10_00_03"), "off"); // another headset, which must not matter
     const QString name = "-x\"; touch owned; \"$(touch owned)`touch owned`' | touch owned; '";
-    bus.sim("SetDevice", { headset, QVariantMap{ { "Alias", name } } });
-    QTRY_VERIFY(bus.device(name));
-    QVERIFY(put(bus.path("ps"), "3 pipewire"));
-    bus.scriptTool("pactl-list-cards", "Card #1 " + name.toUtf8()
-                                           + "\nProfiles:\n\ta: A (sinks: 1, sources: 1)\n\tb;touch owned: B "
-                                             "(sinks: 0)\n\tActive Profile: a\n");
-    for (const char *tool : { "pactl-list-sinks-short", "pactl-list-sources-short" })
-        bus.scriptTool(tool, name.toUtf8() + "\ts16le 1ch 16000Hz\n");
-    audiotest dialog(bus.manager(), headset, nullptr);
-    QCOMPARE(state(dialog), QString("A|output|input|record|monobt"));
-    QStringList calls{ "pactl list cards", "pactl list sinks short", "pactl list sources short" };
-    click(dialog, { "leftbt", "monobt", "rightbt" });
-    calls += playCalls("pw-play /usr/share/sounds/freedesktop/stereo/audio-channel-front-%1.oga");
-    QTRY_COMPARE(soundCalls(bus), calls);
-    click(dialog, { "record", "play" });
-    QStringList seen;
-    closeBox(&seen);
-    dialog.findChild<QComboBox *>("profiles")->setCurrentIndex(1);
-    calls << "pactl list sources short"
-          << "parecord --channels=1 --device=" + name + " /tmp/sample.wav";
-    calls << "killall parecord"
-          << "parecord -p /tmp/sample.wav";
-    calls << "pactl -- set-card-profile " + name + " b;touch owned" << calls.mid(0, 2);
-    QCOMPARE(soundCalls(bus), calls);
-    bus.scriptTool("pactl-list-cards", "Card #1\nProfiles:\n\ta: A (sinks: 0)\n\tActive Profile: a\n");
-    QCOMPARE(state(audiotest(bus.manager(), "00:00:00:00:00:00", nullptr)), QString("A|leftbt|rightbt"));
-}
-
-/** Of each story: the menu, and the buttons that are enabled or the dialog that opened. */
-void TestAudio::opensFromMenu()
-{
-    const std::pair<const char *, const char *> table[] = {
-        { "Office Headset:dismissed", "Audio test|disconnect|remove" },
-        { "Office Headset:chosen", "Audio test|Bluetooth Audio Test" },
-        { "Office Headset:removed", "Audio test" },
-        { "Office Headset:removed, chosen", "Audio test|Bluetooth Audio Test" },
-        { "Desk Keyboard:", "disconnect|remove" },
-        { "Desk Keyboard:topmost", "Audio test" },
-    };
-    for (const auto &row : table) {
-        const QString name = QString(row.first).section(':', 0, 0),
-                      story = QString(row.first).section(':', 1);
-        TestBus bus;
-        pairdesk window(bus.manager(), nullptr);
-        window.show();
-        auto *devices = window.findChild<QTableWidget *>("devices");
-        for (const char *address : { headset, "00:1A:7D:10:00:02" })
-            bus.sim("SetDevice", { address, QVariantMap{ { "Connected", true } } });
-        QTRY_COMPARE(rows(devices).filter("|Connected").size(), 2);
-        QStringList seen;
-        QTimer::singleShot(0, &window, [&] {
-            QWidget *menu = QApplication::activePopupWidget();
-            if (!menu)
-                return;
-            for (const QAction *action : menu->actions())
-                seen += action->text();
-            if (story.contains("removed"))
-                bus.sim("RemoveDevice", { headset });
-            QTRY_COMPARE(bus.device(name).isNull(), story.contains("removed"));
-            QMetaObject::invokeMethod(&window, "onPopupateTable");
-            if (story.contains("chosen")) {
-                whenModal([&seen](QWidget *dialog) {
-                    seen += dialog->windowTitle();
-                    press(dialog, "close");
-                });
-                QTest::keyClick(menu, Qt::Key_Down);
-            }
-            QTest::keyClick(menu, story.contains("chosen") ? Qt::Key_Return : Qt::Key_Escape);
-        });
-        const int current = devices->findItems(name, Qt::MatchExactly).first()->row();
-        // Beside the first column, the row at the table's top is meant.
-        devices->setCurrentCell(current, story == "topmost" ? 2 : 0);
-        const QPoint place = devices->visualItemRect(devices->currentItem()).center();
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, devices->viewport()->mapToGlobal(place));
-        QApplication::sendEvent(devices->viewport(), &event);
-        for (const char *button : { "connect", "disconnect", "remove" }) {
-            if (story != "topmost" && window.findChild<QPushButton *>(button)->isEnabled())
-                seen += button;
-        }
-        QCOMPARE(seen.join('|'), QString(row.second));
-    }
+    desk.verb("silence",
+              [&](const QString &) { put("/tmp/sample.wav", ""), desk.scriptTool("parecord", "", 1); });
+    desk.verb("refuse", [&](const QString &) {
+        const QString off = desk.path("tools/pactl-set-card-profile-bluez_card.00_1A_7D_10_00_01-off.");
+        put(off + "err", "<b>Failure</b>: Kein Gerät\n"), put(off + "status", "1");
+    });
+    desk.verb("sources", [&](const QString &) {
+        desk.scriptTool("pactl-list-sources-short", "1\tbluez_source.00_1A_7D_10_00_03.handsfree_head_unit");
+    });
+    desk.verb("shorten", [&](const QString &) {
+        desk.scriptTool("pactl-list-cards",
+                        "Card #0 bluez_card.00_1A_7D_10_00_01\n Profiles:\n\ta2dp_sink: A");
+    });
+    desk.verb("pipewire", [&](const QString &) {
+        desk.sim("SetDevice", { "00:1A:7D:10:00:01", QVariantMap{ { "Alias", name } } });
+        desk.scriptTool("ps", "2 grep -q pipewire\n3 pipewire");
+        desk.scriptTool("pactl-list-cards", "Card #1 " + name.toUtf8()
+                                                + "\nProfiles:\n\ta: A (sinks: 1, sources: 1)\n"
+                                                  "\tb;touch owned: B (sinks: 0)\n\tActive Profile: a\n");
+        for (const char *tool : { "pactl-list-sinks-short", "pactl-list-sources-short" })
+            desk.scriptTool(tool, name.toUtf8() + "\ts16le 1ch 16000Hz\n");
+        QVERIFY(QFile::remove(desk.path("tools/parecord.out"))
+                && QFile::remove(desk.path("tools/parecord.status")));
+    });
+    desk.does(QString(R"(
+        open, set 00:1A:7D:10:00:01 Connected, set 00:1A:7D:10:00:02 Connected, menu Desk Keyboard
+        menu Desk Keyboard@2, key Esc, menu Office Headset, key Esc, menu Office Headset, key Down, key Return, look
+        press leftbt, press rightbt, choose 2, choose 1, look, press monobt, press record, press play
+        silence, press record, close QMessageBox, sources, press record, close QMessageBox
+        refuse, choose 2, close QMessageBox, close QMessageBox, shorten, choose 0, close QMessageBox, choose 2, press close
+        menu Office Headset, lose 00:1A:7D:10:00:02, key Esc
+        pipewire, menu %1, key Down, key Return, press monobt, press record, press play, choose 1, close QMessageBox
+        press close, press close)")
+                  .arg(name));
+    QVERIFY(!QFile::exists("owned"));
 }
 
 QTEST_MAIN(TestAudio)

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's own main(), run by this binary as a second process that takes its clicks from standard input.
+// The program's own main(), run by this binary as a second process, whose user does what standard input says.
 #include "app/paths.h"
-#include "mainwindow/pairdesk.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/files.h"
+#include "tests/support/hand.h"
 #include "tests/support/testbus.h"
 
 #include <QApplication>
@@ -19,24 +17,20 @@ int programMain(int argc, char **argv);
 
 static const auto pidFile = QLatin1String(paths::pidFile);
 
-/** Says when the main window is there, and from then on presses its button "ok" or "close", or closes it. */
-static void installClicker()
+/** Says when the main window is there. */
+static void bringUser()
 {
     auto *look = new QTimer(qApp);
-    QObject::connect(look, &QTimer::timeout, [look] {
-        auto *window = qobject_cast<pairdesk *>(QApplication::activeWindow());
-        if (!window)
+    QObject::connect(look, &QTimer::timeout, look, [look] {
+        if (Hand::front()->objectName() != "pairdesk")
             return;
         look->stop();
         std::cout << "shown" << std::endl;
-        auto *told = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, window);
-        QObject::connect(told, &QSocketNotifier::activated, window, [window] {
-            std::string click;
-            std::cin >> click;
-            if (click == "window")
-                window->close();
-            else
-                press(window, click.c_str());
+        auto *told = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, look);
+        QObject::connect(told, &QSocketNotifier::activated, look, [] {
+            std::string deed;
+            std::getline(std::cin, deed);
+            Hand().does(QString::fromStdString(deed));
         });
     });
     look->start(5);
@@ -47,15 +41,15 @@ struct Program : QProcess {
     /** The arguments are further ones of env: variables, or a command to run the program with. */
     explicit Program(const QStringList &arguments = {})
     {
-        const QStringList fixed = { "PAIRDESK_TEST_CLICKER=1", "ASAN_OPTIONS=exitcode=99" }; // 1 is its own
+        const QStringList fixed = { "PAIRDESK_TEST_USER=1", "ASAN_OPTIONS=exitcode=99" }; // 1 is its own
         start("env", fixed + arguments + QStringList(QCoreApplication::applicationFilePath()));
         while (!canReadLine() && waitForReadyRead()) { }
         said = readAllStandardOutput().trimmed();
     }
-    /** Clicks there, and gives the exit status; -1 for a crash or when there was no window. */
-    int leave(const char *click)
+    /** Gives the exit status; -1 for a crash or when there was no window. */
+    int leave(const char *deed)
     {
-        write(QByteArray(click) + '\n');
+        write(QByteArray(deed) + '\n');
         waitForFinished();
         return said == "shown" && exitStatus() == NormalExit ? exitCode() : -1;
     }
@@ -72,18 +66,18 @@ private Q_SLOTS:
         const QByteArray own = QByteArray::number(getpid());
         for (const QByteArray &content : { own, own + '\0' + "letters", QByteArray(), QByteArray("letters"),
                                            QByteArray("\xff\0x", 3), QByteArray("99999999999999999999") }) {
-            QVERIFY(put(pidFile, content));
+            put(pidFile, content);
             Program program;
             program.waitForFinished();
             QVERIFY(program.said == "Another instance is running. Exit." && program.exitCode() == 0);
             QCOMPARE(contentOf(pidFile), content);
         }
         const QString linked = m_bus.path("linked");
-        QVERIFY(put(linked, own));
+        put(linked, own);
         for (const bool link : { false, true }) {
             init();
             QCOMPARE(link ? symlink(qPrintable(linked), paths::pidFile) : mkfifo(paths::pidFile, 0600), 0);
-            QCOMPARE(Program().leave("ok"), 0);
+            QCOMPARE(Program().leave("press ok"), 0);
             QVERIFY(!QFile::exists(pidFile) && contentOf(linked) == own);
         }
     }
@@ -94,60 +88,59 @@ private Q_SLOTS:
         QStringList asNobody = QString("setpriv --reuid=65534 --regid=65534 --clear-groups "
                                        "--inh-caps=+dac_override --ambient-caps=+dac_override")
                                    .split(' ');
-        QVERIFY(put(pidFile, "1"));
+        put(pidFile, "1");
         if (geteuid() == 0)
             QCOMPARE(chown(paths::pidFile, 65534, 65534), 0);
         else
             asNobody.clear(); // the first process is another user's anyway
         Program program(asNobody); // nor is the bus for nobody
         QCOMPARE(contentOf(pidFile), QByteArray::number(program.processId()));
-        QCOMPARE(program.leave("close"), 1);
+        QCOMPARE(program.leave("press close"), 1);
     }
 
     void leaves()
     {
         // A crash of the shell, which would turn one of systemctl into an exit code.
-        QVERIFY(put(m_bus.path("bin/sh"), "#!/bin/sh\nkill -9 $$\n"));
+        put(m_bus.path("bin/sh"), "#!/bin/sh\nkill -9 $$\n");
         chmod(qPrintable(m_bus.path("bin/sh")), 0755);
         const QString crash = "PATH=" + m_bus.path("bin:") + qgetenv("PATH");
-        const QString noBus = "DBUS_SYSTEM_BUS_ADDRESS=unix:path=" + m_bus.path("nothing");
-        const QByteArray off = "[General]\naudioprofile=\ndebug=false\nenabled=false\nshowtrayicon=false\n";
-        const QByteArray on = QByteArray(off).replace("enabled=false", "enabled=true");
-        const struct {
-            QString variable;
-            int service;
-            const char *click;
-            int status;
-            QByteArray stored;
-        } ways[] = {
-            { "A=", 0, "close", 1, {} }, { noBus, 0, "close", 1, {} }, { "A=", 0, "window", 1, {} },
-            { "A=", 0, "ok", 0, on },    { "A=", 3, "ok", 0, off },    { crash, 0, "ok", 0, off },
+        // variable, status of the service, deed, exit status, "enabled" in the settings
+        const std::tuple<QString, int, const char *, int, QByteArray> ways[] = {
+            { "A=", 0, "press close", 1, {} },
+            { "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/", 0, "press close", 1, {} },
+            { "A=", 0, "close pairdesk", 1, {} },
+            { "A=", 0, "press ok", 0, "true" },
+            { "A=", 3, "press ok", 0, "false" },
+            { crash, 0, "press ok", 0, "false" },
         };
-        for (const auto &[variable, service, click, status, stored] : ways) {
-            QVERIFY(status == 1 || put(pidFile, "4194305")); // no process ever has this one
-            QFile::remove(m_store);
+        for (const auto &[variable, service, deed, status, enabled] : ways) {
+            if (status == 0)
+                put(pidFile, "4194305"); // no process ever has this one
+            QFile::remove(TestBus::store());
             m_bus.scriptTool("systemctl", {}, service);
             Program program({ variable });
             QCOMPARE(contentOf(pidFile), QByteArray::number(program.processId()));
-            QCOMPARE(program.leave(click), status);
-            QCOMPARE(contentOf(m_store), stored);
+            QCOMPARE(program.leave(deed), status);
+            const QByteArray rest = "debug=false\nenabled=" + enabled + "\nshowtrayicon=false\n";
+            QCOMPARE(contentOf(TestBus::store()), status == 0 ? "[General]\naudioprofile=\n" + rest : "");
             QVERIFY(!QFile::exists(pidFile));
         }
         m_bus.kill();
         Program daemonless;
         m_bus.start();
-        QCOMPARE(daemonless.leave("ok"), 0);
+        QCOMPARE(daemonless.leave("press ok"), 0);
     }
 
     void writesLog()
     {
-        const auto log = QLatin1String(paths::debugLogFile);
-        QVERIFY(put(m_store, "[General]\ndebug=true\n") && put(log, "an earlier run\n"));
+        put(TestBus::store(), "[General]\ndebug=true\n");
+        put(paths::debugLogFile, "an earlier run\n");
         Program program;
-        QCOMPARE(kill(static_cast<pid_t>(program.processId()), SIGHUP), 0);
-        QTRY_COMPARE(contentOf(log).count("- btagent::hupSignalHandler\n"), 1);
-        QCOMPARE(program.leave("ok"), 0);
-        const QList<QByteArray> lines = contentOf(log).split('\n');
+        QCOMPARE(program.said, QByteArray("shown"));
+        QCOMPARE(kill(pid_t(program.processId()), SIGHUP), 0);
+        TRY(contentOf(paths::debugLogFile).count("- btagent::hupSignalHandler\n") == 1);
+        QCOMPARE(program.leave("press ok"), 0);
+        const QList<QByteArray> lines = contentOf(paths::debugLogFile).split('\n');
         QVERIFY(lines[0] == "an earlier run" && lines[1].endsWith(")- pairdesk::pairdesk in"));
     }
 
@@ -155,25 +148,23 @@ private Q_SLOTS:
     {
         for (const int status : { 0, 1, 2 }) {
             m_bus.scriptTool("hcitool", {}, status);
-            const int before = m_bus.toolCalls().count("hcitool lescan");
+            m_bus.takeCalls();
             Program program;
-            QTRY_VERIFY(m_bus.toolCalls().count("hcitool lescan") > before);
-            QCOMPARE(program.leave("close"), 1); // sees the click only after its scan
-            QCOMPARE(m_bus.toolCalls().count("hcitool lescan"), before + (status == 1 ? 2 : 1));
+            QStringList scans;
+            TRY((scans += m_bus.takeCalls().filter("hcitool lescan"), !scans.isEmpty()));
+            QCOMPARE(program.leave("press close"), 1); // sees the click only after its scan
+            QCOMPARE((scans + m_bus.takeCalls().filter("hcitool lescan")).size(), status == 1 ? 2 : 1);
         }
     }
 
 private:
-    Aside m_pidFile{ paths::pidFile };
-    Aside m_log{ paths::debugLogFile };
     TestBus m_bus;
-    QString m_store = m_bus.path("config/Zemra/pairdesk.conf");
 };
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsSet("PAIRDESK_TEST_CLICKER")) {
-        qAddPreRoutine(installClicker);
+    if (qEnvironmentVariableIsSet("PAIRDESK_TEST_USER")) {
+        qAddPreRoutine(bringUser);
         return programMain(argc, argv);
     }
     QCoreApplication application(argc, argv);
