@@ -45,7 +45,8 @@ Hand::Hand()
                 return Act([=] { QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place); });
             return Act([=] {
                 table->setCurrentCell(found.first()->row(), object.section('@', 1).toInt());
-                QContextMenuEvent event(QContextMenuEvent::Mouse, place);
+                QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                                        table->viewport()->mapToGlobal(place));
                 QApplication::sendEvent(table->viewport(), &event);
             });
         };
