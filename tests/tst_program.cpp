@@ -135,6 +135,7 @@ private Q_SLOTS:
     {
         put(TestBus::store(), "[General]\ndebug=true\n");
         put(paths::debugLogFile, "an earlier run\n");
+        m_bus.sim("SetDevice", { "00:1A:7D:10:00:01", QVariantMap{ { "Alias", QString(5000, 'x') } } });
         Program program;
         QCOMPARE(program.said, QByteArray("shown"));
         QCOMPARE(kill(pid_t(program.processId()), SIGHUP), 0);
@@ -142,6 +143,13 @@ private Q_SLOTS:
         QCOMPARE(program.leave("press ok"), 0);
         const QList<QByteArray> lines = contentOf(paths::debugLogFile).split('\n');
         QVERIFY(lines[0] == "an earlier run" && lines[1].endsWith(")- pairdesk::pairdesk in"));
+        QVERIFY(
+            contentOf(paths::debugLogFile).contains("dev: " + QByteArray(1000, 'x') + ", type: headset\n"));
+
+        const QString linked = m_bus.path("log");
+        QVERIFY(QFile::remove(paths::debugLogFile) && symlink(qPrintable(linked), paths::debugLogFile) == 0);
+        QCOMPARE(Program().leave("press ok"), 0);
+        QVERIFY(!QFile::exists(linked));
     }
 
     void scansOnceOrTwice()
