@@ -33,7 +33,8 @@ Desk::Desk(const QString &record, const QString &scene)
     QFont font; // of a size that desktops have
     font.setPointSize(10);
     QApplication::setFont(font);
-    manager(); // its job runs an event loop
+    QApplication::setQuitOnLastWindowClosed(false); // which would end the event loops of the next desk
+    manager(); // its job runs one
     s_otherHandler = qInstallMessageHandler(hear);
 
     verb("open", [this](const QString &) {

@@ -52,7 +52,8 @@ void TestBus::start()
 {
     m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_daemon.start(DEMO_DIR "/simbluez", m_scene.split(' ', Qt::SkipEmptyParts));
-    TRY(QDBusConnection::systemBus().interface()->isServiceRegistered("org.bluez"));
+    QVERIFY(m_daemon.waitForReadyRead(20000)); // it prints a line as soon as it can be used
+    waitForDaemon(); // and what is told of the one before has come in: no new manager hears of it
 }
 
 void TestBus::kill()
@@ -62,6 +63,9 @@ void TestBus::kill()
     const QByteArray other = contentOf(path("simbluez.pid"));
     if (contentOf("/proc/" + other + "/cmdline").contains("simbluez"))
         ::kill(other.toInt(), SIGKILL);
+    for (int i = 0; i < 2000 && QDBusConnection::systemBus().interface()->isServiceRegistered("org.bluez");
+         ++i)
+        QThread::msleep(10); // its name is not free yet
 }
 
 void TestBus::sim(const QString &method, const QVariantList &arguments)
