@@ -2,9 +2,11 @@
 #include "app/commandrunner.h"
 #include "dialogs/audiocommands.h"
 #include "dialogs/audioprofile.h"
+#include "dialogs/audiotest.h"
 #include "tests/support/desk.h"
 
 #include <QtTest>
+#include <QtWidgets>
 
 using namespace audiocommands;
 
@@ -19,6 +21,7 @@ private Q_SLOTS:
     void writesCommands();
     void works_data();
     void works();
+    void triesPipeWiresNames();
 };
 
 void TestAudio::readsProfileLines()
@@ -144,6 +147,53 @@ void TestAudio::works()
         press close, press close)")
                   .arg(name));
     QVERIFY(!QFile::exists("owned"));
+}
+
+/** What PipeWire calls the headset is tried only where a click by the headset's own name has come to nothing.
+ */
+void TestAudio::triesPipeWiresNames()
+{
+    TestBus bus;
+    QByteArray cards = contentOf(TEST_DATA "/pactl/pipewire-cards.txt");
+    cards.replace("VHeadset", "Office Headset").replace("00_AA_01_01_00_01", "00_1A_7D_10_00_01");
+    bus.scriptTool("ps", "3 pipewire");
+    bus.scriptTool("pactl-list-cards", cards);
+    audiotest dialog(bus.manager(), address, nullptr);
+    QStringList boxes;
+    QTimer look;
+    connect(&look, &QTimer::timeout, &dialog, [&boxes] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+            boxes += box->text(), box->accept();
+    });
+    look.start(5);
+    const auto calls = [&bus] { return bus.takeCalls().filter(QRegularExpression("^pa")).join('|'); };
+    const QString listing = "pactl list cards|pactl list sinks short";
+    QCOMPARE(calls(), listing + "|pactl list sources short");
+
+    for (const char *refused : { "Office-Headset-headset-head-unit", "bluez_card.00_1A_7D_10_00_01-off" }) {
+        put(bus.path("tools/pactl-set-card-profile-Office-Headset-off.err"), "no such entity");
+        bus.scriptTool("pactl-set-card-profile-Office-Headset-off", {}, 1);
+        bus.scriptTool(QString("pactl-set-card-profile-") + refused, {}, 1);
+        const QString profile = QString(refused).contains("unit") ? "headset-head-unit" : "off";
+        cards.replace("Active Profile: audio-gateway", "Active Profile: headset-head-unit");
+        bus.scriptTool("pactl-list-cards", cards);
+        dialog.findChild<QComboBox *>()->setCurrentIndex(profile == "off" ? 0 : 2);
+        const QString set = "pactl set-card-profile %1 " + profile + '|';
+        QCOMPARE(calls(), set.arg("Office Headset") + set.arg("bluez_card.00_1A_7D_10_00_01") + listing);
+    }
+    QCOMPARE(boxes, QStringList({ "no such entity", "An error occure while changing profile" }));
+
+    const std::pair<const char *, const char *> sources[] = {
+        { "1\tbluez_input.00_1A_7D_10_00_02.0\n2\tbluez_output.00_1A_7D_10_00_01.1.monitor\n", "" },
+        { "1\talsa_input.pci\n2\tbluez_input.00:1a:7d:10:00:01\n", "bluez_input.00:1a:7d:10:00:01" },
+    };
+    for (const auto &[listed, found] : sources) {
+        bus.scriptTool("pactl-list-sources-short", listed);
+        dialog.findChild<QPushButton *>("record")->click();
+        const QString recording = QString("|parecord --channels=1 --device=%1 /tmp/sample.wav").arg(found);
+        QCOMPARE(calls(), "pactl list sources short|pactl list sources short" + (*found ? recording : ""));
+    }
+    QCOMPARE(boxes.mid(2), QStringList("An error occurred while getting the audio source name."));
 }
 
 QTEST_MAIN(TestAudio)
