@@ -147,6 +147,7 @@ void TestAudio::works()
         press close, press close)")
                   .arg(name));
     QVERIFY(!QFile::exists("owned"));
+    QDir::setCurrent("/"); // the folder goes
 }
 
 /** What PipeWire calls the headset is tried only where a click by the headset's own name has come to nothing.
