@@ -74,7 +74,7 @@ QString findMicrophone(const QString &listing, const QString &address)
 {
     const QStringList sources = listing.split(QLatin1Char('\n'));
     for (const QString &source : sources) {
-        const QString name = source.section(QLatin1Char('\t'), 1, 1);
+        QString name = source.section(QLatin1Char('\t'), 1, 1);
         if (name.startsWith(QLatin1String("bluez_input.")) && mentions(name, address))
             return name;
     }
