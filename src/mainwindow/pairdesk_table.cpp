@@ -10,6 +10,7 @@
 #include <BluezQt/Adapter>
 #include <BluezQt/Device>
 #include <QDebug>
+#include <QSignalBlocker>
 
 void pairdesk::populateTable()
 {
@@ -36,6 +37,8 @@ void pairdesk::populateTable()
         auto *name = new QTableWidgetItem(device->name());
         debugLog(3, "pairdesk::populateTable address is %s", logPrintable(device->address()));
         name->setData(Qt::UserRole, device->address());
+        // The view looks anew after the reset or the new row, and needs no word of each cell.
+        const QSignalBlocker blocker(table->model());
         table->setItem(row, 0, name);
         table->setItem(row, 1, new QTableWidgetItem(type));
         table->setItem(row, 2,
