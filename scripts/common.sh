@@ -9,8 +9,7 @@ build_packages=(cmake g++ libkf5bluezqt-dev libx11-dev ninja-build qtbase5-dev q
 qt='' # what the presets end in that build with another Qt than usual
 run_packages=(alsa-utils bluez procps psmisc pulseaudio-utils sound-theme-freedesktop)
 demo_packages=(dbus-bin dbus-daemon procps python3-dbus python3-gi)
-test_packages=(alsa-utils dbus-bin dbus-daemon libasound2-plugins nodejs procps psmisc pulseaudio pulseaudio-utils
-    sound-theme-freedesktop)
+test_packages=(nodejs)
 screen_packages=(imagemagick xdotool xvfb)
 real_packages=(alsa-utils at-spi2-core bluez bluez-test-tools busybox-static cpio dbus gir1.2-atspi-2.0 kmod
     libasound2-plugins libglib2.0-bin libpam-systemd libspa-0.2-bluetooth pipewire pipewire-bin

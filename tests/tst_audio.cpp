@@ -2,11 +2,9 @@
 #include "app/commandrunner.h"
 #include "dialogs/audiocommands.h"
 #include "dialogs/audioprofile.h"
-#include "dialogs/audiotest.h"
-#include "tests/support/desk.h"
+#include "tests/support/testbus.h"
 
 #include <QtTest>
-#include <QtWidgets>
 
 using namespace audiocommands;
 
@@ -19,9 +17,6 @@ private Q_SLOTS:
     void readsProfileLines();
     void readsCards();
     void writesCommands();
-    void works_data();
-    void works();
-    void triesPipeWiresNames();
 };
 
 void TestAudio::readsProfileLines()
@@ -96,106 +91,5 @@ void TestAudio::writesCommands()
     }
 }
 
-/** The dialog itself writes no log. */
-void TestAudio::works_data()
-{
-    QTest::addColumn<bool>("log");
-    QTest::newRow("log open") << true;
-}
-
-/** With PulseAudio, and with PipeWire, where what the device is called is the key to everything. */
-void TestAudio::works()
-{
-    Desk desk("audio", "");
-    QTemporaryDir folder;
-    QVERIFY(QDir::setCurrent(folder.path()));
-    put("/tmp/sample.wav", "of an earlier run");
-    put(desk.path("bluez_card.00_1A_7D_10_00_03"), "off"); // another headset, which must not matter
-    const QString name = "-x\"; touch owned; \"$(touch owned)`touch owned`' | touch owned; '";
-    desk.verb("silence",
-              [&](const QString &) { put("/tmp/sample.wav", ""), desk.scriptTool("parecord", "", 1); });
-    desk.verb("refuse", [&](const QString &) {
-        const QString off = desk.path("tools/pactl-set-card-profile-bluez_card.00_1A_7D_10_00_01-off.");
-        put(off + "err", "<b>Failure</b>: Kein Gerät\n"), put(off + "status", "1");
-    });
-    desk.verb("sources", [&](const QString &) {
-        desk.scriptTool("pactl-list-sources-short", "1\tbluez_source.00_1A_7D_10_00_03.handsfree_head_unit");
-    });
-    desk.verb("shorten", [&](const QString &) {
-        desk.scriptTool("pactl-list-cards",
-                        "Card #0 bluez_card.00_1A_7D_10_00_01\n Profiles:\n\ta2dp_sink: A");
-    });
-    desk.verb("pipewire", [&](const QString &) {
-        desk.sim("SetDevice", { "00:1A:7D:10:00:01", QVariantMap{ { "Alias", name } } });
-        desk.scriptTool("ps", "2 grep -q pipewire\n3 pipewire");
-        desk.scriptTool("pactl-list-cards", "Card #1 " + name.toUtf8()
-                                                + "\nProfiles:\n\ta: A (sinks: 1, sources: 1)\n"
-                                                  "\tb;touch owned: B (sinks: 0)\n\tActive Profile: a\n");
-        for (const char *tool : { "pactl-list-sinks-short", "pactl-list-sources-short" })
-            desk.scriptTool(tool, name.toUtf8() + "\ts16le 1ch 16000Hz\n");
-        QVERIFY(QFile::remove(desk.path("tools/parecord.out"))
-                && QFile::remove(desk.path("tools/parecord.status")));
-    });
-    desk.does(QString(R"(
-        open, set 00:1A:7D:10:00:01 Connected, set 00:1A:7D:10:00:02 Connected, menu Desk Keyboard
-        menu Desk Keyboard@2, key Esc, menu Office Headset, key Esc, menu Office Headset, key Down, key Return, look
-        press leftbt, press rightbt, choose 2, choose 1, look, press monobt, press record, press play
-        silence, press record, close QMessageBox, sources, press record, close QMessageBox
-        refuse, choose 2, close QMessageBox, close QMessageBox, shorten, choose 0, close QMessageBox, choose 2, press close
-        menu Office Headset, lose 00:1A:7D:10:00:02, key Esc
-        pipewire, menu %1, key Down, key Return, press monobt, press record, press play, choose 1, close QMessageBox
-        press close, press close)")
-                  .arg(name));
-    QVERIFY(!QFile::exists("owned"));
-    QDir::setCurrent("/"); // the folder goes
-}
-
-/** What PipeWire calls the headset is tried only where a click by the headset's own name has come to nothing.
- */
-void TestAudio::triesPipeWiresNames()
-{
-    TestBus bus;
-    QByteArray cards = contentOf(TEST_DATA "/pactl/pipewire-cards.txt");
-    cards.replace("VHeadset", "Office Headset").replace("00_AA_01_01_00_01", "00_1A_7D_10_00_01");
-    bus.scriptTool("ps", "3 pipewire");
-    bus.scriptTool("pactl-list-cards", cards);
-    audiotest dialog(bus.manager(), address, nullptr);
-    QStringList boxes;
-    QTimer look;
-    connect(&look, &QTimer::timeout, &dialog, [&boxes] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
-            boxes += box->text(), box->accept();
-    });
-    look.start(5);
-    const auto calls = [&bus] { return bus.takeCalls().filter(QRegularExpression("^pa")).join('|'); };
-    const QString listing = "pactl list cards|pactl list sinks short";
-    QCOMPARE(calls(), listing + "|pactl list sources short");
-
-    for (const char *refused : { "Office-Headset-headset-head-unit", "bluez_card.00_1A_7D_10_00_01-off" }) {
-        put(bus.path("tools/pactl-set-card-profile-Office-Headset-off.err"), "no such entity");
-        bus.scriptTool("pactl-set-card-profile-Office-Headset-off", {}, 1);
-        bus.scriptTool(QString("pactl-set-card-profile-") + refused, {}, 1);
-        const QString profile = QString(refused).contains("unit") ? "headset-head-unit" : "off";
-        cards.replace("Active Profile: audio-gateway", "Active Profile: headset-head-unit");
-        bus.scriptTool("pactl-list-cards", cards);
-        dialog.findChild<QComboBox *>()->setCurrentIndex(profile == "off" ? 0 : 2);
-        const QString set = "pactl set-card-profile %1 " + profile + '|';
-        QCOMPARE(calls(), set.arg("Office Headset") + set.arg("bluez_card.00_1A_7D_10_00_01") + listing);
-    }
-    QCOMPARE(boxes, QStringList({ "no such entity", "An error occure while changing profile" }));
-
-    const std::pair<const char *, const char *> sources[] = {
-        { "1\tbluez_input.00_1A_7D_10_00_02.0\n2\tbluez_output.00_1A_7D_10_00_01.1.monitor\n", "" },
-        { "1\talsa_input.pci\n2\tbluez_input.00:1a:7d:10:00:01\n", "bluez_input.00:1a:7d:10:00:01" },
-    };
-    for (const auto &[listed, found] : sources) {
-        bus.scriptTool("pactl-list-sources-short", listed);
-        dialog.findChild<QPushButton *>("record")->click();
-        const QString recording = QString("|parecord --channels=1 --device=%1 /tmp/sample.wav").arg(found);
-        QCOMPARE(calls(), "pactl list sources short|pactl list sources short" + (*found ? recording : ""));
-    }
-    QCOMPARE(boxes.mid(2), QStringList("An error occurred while getting the audio source name."));
-}
-
-QTEST_MAIN(TestAudio)
+QTEST_GUILESS_MAIN(TestAudio)
 #include "tst_audio.moc"

@@ -5,23 +5,29 @@
 #include "tests/support/hand.h"
 #include "tests/support/testbus.h"
 
+#include <QTimer>
+
 class btagent;
 
 /**
- * The daemon, the main window and a user. With the name of a record, each deed has to have just the effect
- * that its section of data/NAME.log tells: the trace and the debug stream, where the log is open, and (lines
- * with "=") the calls of BlueZ and of the tools, and what can be seen; after "look", how every window is laid
- * out, too. PAIRDESK_RECORD=FOLDER appends to the record there instead.
- *
- * Further verbs: what the daemon's Do() takes; open (the window), switch, kill and start (the daemon),
- * operational on, devices COUNT, look.
+ * The daemon, the main window and a user. Further verbs: what the daemon's Do() takes; name and alias (of a
+ * device, with blanks in it), tool, open (the window), switch, kill and start (the daemon), operational on,
+ * devices COUNT, look.
  */
 class Desk : public TestBus, public Hand {
 public:
-    explicit Desk(const QString &record = QString(), const QString &scene = "--empty");
+    explicit Desk(const QString &scene = "--empty");
     ~Desk();
-    /** Two rows of test data: what can be seen must not depend on whether the log is open. */
-    static void logClosedAndOpen();
+
+    /**
+     * Does the deeds of data/roads/NAME.log, the lines with "#". Each has to have just the effect that is
+     * told below it: the trace and the debug stream, where the log is open, and (lines with "=") the calls of
+     * BlueZ and of the tools, and what can be seen; after "look", how every window is laid out, too.
+     * PAIRDESK_RECORD=1 writes anew what is told there.
+     */
+    void walk(const QString &road, bool withLog);
+    /** What all windows show, each in a line with further ones below it: for its rows, for its layout. */
+    static QStringList view(bool withLayout);
 
     std::unique_ptr<pairdesk> window;
     btagent *agent = nullptr;
@@ -33,12 +39,15 @@ protected:
 private:
     QStringList effect(bool withLayout);
 
-    QString m_record;
-    QStringList m_sections; // of the record
-    int m_section = 1; // of the deed under way
-    bool m_log;
+    QStringList m_sections; // of the record, what is told of the deed under way first
+    bool m_withLog = false;
     int m_logged = 0; // lines of the log that belong to former deeds
     QStringList m_calls; // since the deed
-    int m_calm = 0; // looks since the daemon has answered
+    QTimer m_turn; // over when whatever the event loop had to do is done
+    int m_calm = 0; // turns since the daemon has answered
     QElapsedTimer m_seen; // while recording
+    QByteArray m_record;
 };
+
+/** The texts of the table's rows, each joined by "|"; an emptied row gives an empty text. */
+QStringList rows(const QTableWidget *table);

@@ -5,16 +5,15 @@
 #include <QtTest>
 #include <QtWidgets>
 
-QStringList rows(const QTableWidget *table)
+/** The cell with this text in the front window's table, null when nobody could click it. */
+static QTableWidgetItem *cell(const QString &text)
 {
-    QStringList texts;
-    for (int row = 0; row < table->rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < table->columnCount() && table->item(row, column); ++column)
-            cells.append(table->item(row, column)->text());
-        texts.append(cells.join('|'));
-    }
-    return texts;
+    auto *table = Hand::front()->findChild<QTableWidget *>();
+    const auto found = table ? table->findItems(text, Qt::MatchExactly) : QList<QTableWidgetItem *>();
+    if (found.isEmpty() || !table->isEnabled())
+        return nullptr;
+    table->scrollToItem(found.first());
+    return found.first();
 }
 
 /** Windows without a name of their own, as boxes and menus, are called by their class. */
@@ -25,46 +24,51 @@ static bool isCalled(const QWidget *window, const QString &name)
 
 Hand::Hand()
 {
-    m_verbs["press"] = [](QWidget *window, const QString &name) {
-        auto *button = window->findChild<QAbstractButton *>(name);
-        const bool can = button && button->isEnabled() && button->isVisible();
-        // A check box is not sensitive everywhere.
-        const QPoint place(10, can ? button->height() / 2 : 0);
-        return can ? [=] { QTest::mouseClick(button, Qt::LeftButton, {}, place); } : Act();
-    };
-    for (const QString verb : { "row", "menu" }) {
-        m_verbs[verb] = [verb](QWidget *window, const QString &object) {
-            auto *table = window->findChild<QTableWidget *>();
-            const QString name = object.section('@', 0, 0);
-            const auto found = table ? table->findItems(name, Qt::MatchExactly) : QList<QTableWidgetItem *>();
-            if (found.isEmpty() || !table->isEnabled())
-                return Act();
-            table->scrollToItem(found.first());
-            const QPoint place = table->visualItemRect(found.first()).center();
-            if (verb == "row")
-                return Act([=] { QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place); });
-            return Act([=] {
-                table->setCurrentCell(found.first()->row(), object.section('@', 1).toInt());
-                QContextMenuEvent event(QContextMenuEvent::Mouse, place,
-                                        table->viewport()->mapToGlobal(place));
-                QApplication::sendEvent(table->viewport(), &event);
-            });
-        };
-    }
-    verb("key", [](const QString &key) { QTest::keySequence(front(), QKeySequence(key)); });
-    verb("choose",
-         [](const QString &index) { front()->findChild<QComboBox *>()->setCurrentIndex(index.toInt()); });
+    verb("press", [](const QString &name) {
+        auto *button = front()->findChild<QAbstractButton *>(name);
+        if (!button || !button->isEnabled() || !button->isVisible())
+            return false;
+        QTest::mouseClick(button, Qt::LeftButton, {},
+                          { 10, button->height() / 2 }); // where a check box hears it
+        return true;
+    });
+    verb("row", [](const QString &name) {
+        const QTableWidgetItem *item = cell(name);
+        if (item)
+            QTest::mouseClick(item->tableWidget()->viewport(), Qt::LeftButton, {},
+                              item->tableWidget()->visualItemRect(item).center());
+        return item != nullptr;
+    });
+    verb("menu", [](const QString &object) {
+        const QTableWidgetItem *item = cell(object.section('@', 0, 0));
+        if (!item)
+            return false;
+        QWidget *viewport = item->tableWidget()->viewport();
+        const QPoint place = item->tableWidget()->visualItemRect(item).center();
+        item->tableWidget()->setCurrentCell(item->row(), object.section('@', 1).toInt());
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, viewport->mapToGlobal(place));
+        QApplication::sendEvent(viewport, &event);
+        return true;
+    });
+    verb("key", [](const QString &key) {
+        QWidget *heard = QApplication::activePopupWidget() ? front() : QApplication::focusWidget();
+        if (heard)
+            QTest::keySequence(heard, QKeySequence(key));
+        else
+            front()->activateWindow(); // as a window manager does
+        return heard != nullptr;
+    });
+    verb("choose", [](const QString &index) {
+        auto *box = front()->findChild<QComboBox *>();
+        return box && (box->setCurrentIndex(index.toInt()), true);
+    });
     verb("see", [](const QString &name) {
         const QWidgetList all = QApplication::topLevelWidgets();
-        return std::any_of(all.begin(), all.end(),
-                           [name](QWidget *window) { return isCalled(window, name); });
+        return std::any_of(all.begin(), all.end(), [&](QWidget *window) { return isCalled(window, name); });
     });
-    m_verbs["close"] = [](QWidget *window, const QString &name) {
-        return isCalled(window, name) ? [=] { window->close(); } : Act();
-    };
+    verb("close", [](const QString &name) { return isCalled(front(), name) && (front()->close(), true); });
     verb("leave", [this](const QString &) {
-        const bool isDone = QThread::currentThread()->loopLevel() == m_level;
-        return isDone || (front()->close(), false);
+        return QThread::currentThread()->loopLevel() == m_level || (front()->close(), false);
     });
     // A slot may process events in between: nobody is that fast.
     auto *dispatcher = QAbstractEventDispatcher::instance();
@@ -82,9 +86,9 @@ QWidget *Hand::front()
     return top ? top : none;
 }
 
-void Hand::does(const QString &deeds)
+void Hand::does(const QStringList &deeds)
 {
-    m_deeds = deeds.split(QRegularExpression(",?\n *|, *"), Qt::SkipEmptyParts);
+    m_deeds = deeds;
     m_next = 0;
     m_failed = false;
     m_hadEffect = true;
@@ -100,28 +104,30 @@ void Hand::look()
     if (!m_loop.isRunning())
         return;
     QTimer::singleShot(3, this, &Hand::look);
+    if (!m_atRest)
+        return;
     const bool isInside = QThread::currentThread()->loopLevel() > m_level;
     const QString deed = m_deeds.value(m_next);
     QString why = "not possible in " + front()->objectName() + front()->metaObject()->className() + ": "
                   + (deed.isEmpty() ? "to leave" : deed);
-    if (!m_atRest)
-        return;
     if (m_failed && isInside) {
         front()->close();
-    } else if (m_failed) {
+    } else if (m_failed || (m_hadEffect && deed.isEmpty() && !isInside)) {
         m_loop.quit();
-    } else if (m_hadEffect || hasEffect(m_deeds[m_next - 1], &why)) {
+    } else if (!m_hadEffect && hasEffect(m_deeds[m_next - 1], &why)) {
         m_hadEffect = true;
+    } else if (m_hadEffect && !deed.isEmpty()) {
+        // A verb may run an event loop in which the next ones are done.
+        const QElapsedTimer since = std::exchange(m_since, {});
         const auto verb = m_verbs.value(deed.section(' ', 0, 0));
-        if (deed.isEmpty() && !isInside)
-            m_loop.quit();
-        if (const Act act = verb ? verb(front(), deed.section(' ', 1)) : Act()) {
-            ++m_next;
-            m_since.start();
-            m_hadEffect = false;
-            act();
+        m_since.start();
+        m_hadEffect = false;
+        ++m_next;
+        if (verb && verb(deed.section(' ', 1)))
             return;
-        }
+        --m_next;
+        m_hadEffect = true;
+        m_since = since;
     }
     if (m_since.hasExpired(20000) && !m_failed) {
         QTest::qFail(qPrintable(why), __FILE__, __LINE__);

@@ -18,16 +18,21 @@ class Hand : public QObject {
 public:
     Hand();
 
-    /** Does what the lines say, separated by commas; returns with every window left. */
-    void does(const QString &deeds);
-    /** Adds a verb: what returns a bool is waited for. */
+    /** Returns with every window left that was opened on the way. */
+    void does(const QStringList &deeds);
+    /** What the lines say, separated by commas. */
+    void does(const QString &deeds)
+    {
+        does(deeds.split(QRegularExpression(",?\n *|, *"), Qt::SkipEmptyParts));
+    }
+    /** Adds a verb: it is tried until it returns true, or done once when it returns nothing. */
     template <typename F> void verb(const QString &name, const F &function)
     {
-        m_verbs[name] = [function](QWidget *, const QString &object) -> Act {
+        m_verbs[name] = [function](const QString &object) {
             if constexpr (std::is_same_v<decltype(function(object)), bool>)
-                return function(object) ? Act([] {}) : Act();
+                return function(object);
             else
-                return [=] { function(object); };
+                return function(object), true;
         };
     }
     /** The menu or dialog that is open on top, else the first window; an empty one when there is none. */
@@ -38,10 +43,8 @@ protected:
     virtual bool hasEffect(const QString & /*deed*/, QString * /*why*/) { return true; }
 
 private:
-    using Act = std::function<void()>;
     void look();
-    QMap<QString, std::function<Act(QWidget *front, const QString &object)>>
-        m_verbs; // null: not possible yet
+    QMap<QString, std::function<bool(const QString &object)>> m_verbs;
     QStringList m_deeds;
     int m_next = 0;
     int m_level = 0; // of the user's own event loop
@@ -51,6 +54,3 @@ private:
     QElapsedTimer m_since; // the last deed
     QEventLoop m_loop;
 };
-
-/** The texts of the table's rows, each joined by "|"; an emptied row gives an empty text. */
-QStringList rows(const QTableWidget *table);
