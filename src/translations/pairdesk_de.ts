@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Left</source>
-        <translation>Links</translation>
+        <translation>links</translation>
     </message>
     <message>
         <source>Mono</source>
@@ -56,7 +56,7 @@
     </message>
     <message>
         <source>Right</source>
-        <translation>Rechts</translation>
+        <translation>rechts</translation>
     </message>
     <message>
         <source>Audio Recording</source>

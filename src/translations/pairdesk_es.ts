@@ -176,7 +176,7 @@ El archivo está vacío</translation>
     </message>
     <message>
         <source>Debug log</source>
-        <translation>Registro detallado</translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>A2DP</source>

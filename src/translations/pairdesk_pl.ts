@@ -190,7 +190,7 @@ Plik jest pusty</translation>
     </message>
     <message>
         <source>Show tray icon</source>
-        <translation>Ikona w zasobniku</translation>
+        <translation>W zasobniku</translation>
     </message>
     <message>
         <source>Cancel</source>

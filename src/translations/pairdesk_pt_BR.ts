@@ -176,7 +176,7 @@ O arquivo está vazio</translation>
     </message>
     <message>
         <source>Debug log</source>
-        <translation>Log de depuração</translation>
+        <translation>Depuração</translation>
     </message>
     <message>
         <source>A2DP</source>

@@ -198,7 +198,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Default headsets profile:</source>
-        <translation>Типовий профіль гарнітур:</translation>
+        <translation>Профіль гарнітур:</translation>
     </message>
 </context>
 <context>
