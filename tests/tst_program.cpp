@@ -1,23 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's own main(), run by this binary as a second process, whose user does what standard input says.
+// The program's own main(), run by this binary as a second process, with a user who does what a variable
+// says.
 #include "app/paths.h"
 #include "tests/support/hand.h"
 #include "tests/support/testbus.h"
 
 #include <QApplication>
-#include <QSocketNotifier>
 #include <QtTest>
 
 #include <csignal>
-#include <iostream>
 #include <sys/stat.h>
 #include <unistd.h>
 
 int programMain(int argc, char **argv);
 
-static const auto pidFile = QLatin1String(paths::pidFile);
-
-/** Says when the main window is there. */
+/** Waits for the main window and says so. */
 static void bringUser()
 {
     auto *look = new QTimer(qApp);
@@ -25,77 +22,41 @@ static void bringUser()
         if (Hand::front()->objectName() != "pairdesk")
             return;
         look->stop();
-        std::cout << "shown" << std::endl;
-        auto *told = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, look);
-        QObject::connect(told, &QSocketNotifier::activated, look, [] {
-            std::string deed;
-            std::getline(std::cin, deed);
-            Hand().does(QString::fromStdString(deed));
-        });
+        QTextStream(stdout) << "shown ";
+        Hand user;
+        user.verb("owns",
+                  [](const QString &) { return contentOf(paths::pidFile) == QByteArray::number(getpid()); });
+        user.verb("hang", [](const QString &) { raise(SIGHUP); });
+        user.does(qEnvironmentVariable("PAIRDESK_TEST_USER"));
     });
     look->start(5);
 }
 
-/** The program in a process of its own, once it has shown its window or said something else. */
-struct Program : QProcess {
-    /** The arguments are further ones of env: variables, or a command to run the program with. */
-    explicit Program(const QStringList &arguments = {})
-    {
-        const QStringList fixed = { "PAIRDESK_TEST_USER=1", "ASAN_OPTIONS=exitcode=99" }; // 1 is its own
-        start("env", fixed + arguments + QStringList(QCoreApplication::applicationFilePath()));
-        while (!canReadLine() && waitForReadyRead()) { }
-        said = readAllStandardOutput().trimmed();
-    }
-    /** Gives the exit status; -1 for a crash or when there was no window. */
-    int leave(const char *deed)
-    {
-        write(QByteArray(deed) + '\n');
-        waitForFinished();
-        return said == "shown" && exitStatus() == NormalExit ? exitCode() : -1;
-    }
-    QByteArray said;
-};
+/** What the program says and its exit status; env takes variables, or a command to run it with. */
+static QString outcome(const QString &deeds, const QStringList &arguments = {})
+{
+    QProcess program;
+    const QStringList fixed = { "PAIRDESK_TEST_USER=" + deeds, "ASAN_OPTIONS=exitcode=99" }; // 1 is its own
+    program.start("env", fixed + arguments + QStringList(QCoreApplication::applicationFilePath()));
+    const bool hasLeft = program.waitForFinished() && program.exitStatus() == QProcess::NormalExit;
+    return program.readAllStandardOutput() + (hasLeft ? QString::number(program.exitCode()) : "crashed");
+}
 
 class TestProgram : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { std::remove(paths::pidFile); }
     void looksForOthers()
     {
         const QByteArray own = QByteArray::number(getpid());
-        for (const QByteArray &content : { own, own + '\0' + "letters", QByteArray(), QByteArray("letters"),
-                                           QByteArray("\xff\0x", 3), QByteArray("99999999999999999999") }) {
-            put(pidFile, content);
-            Program program;
-            program.waitForFinished();
-            QVERIFY(program.said == "Another instance is running. Exit." && program.exitCode() == 0);
-            QCOMPARE(contentOf(pidFile), content);
+        for (const QByteArray &content : QByteArrayList{ own, "", "letters", "99999999999999999999" }) {
+            put(paths::pidFile, content);
+            QCOMPARE(outcome("press ok"), "Another instance is running. Exit.\n0");
+            QCOMPARE(contentOf(paths::pidFile), content);
         }
-        const QString linked = m_bus.path("linked");
-        put(linked, own);
-        for (const bool link : { false, true }) {
-            init();
-            QCOMPARE(link ? symlink(qPrintable(linked), paths::pidFile) : mkfifo(paths::pidFile, 0600), 0);
-            QCOMPARE(Program().leave("press ok"), 0);
-            QVERIFY(!QFile::exists(pidFile) && contentOf(linked) == own);
-        }
-    }
-
-    void startsBesideOtherUser()
-    {
-        // Nobody may still look into a build folder that is closed to others.
-        QStringList asNobody = QString("setpriv --reuid=65534 --regid=65534 --clear-groups "
-                                       "--inh-caps=+dac_override --ambient-caps=+dac_override")
-                                   .split(' ');
-        put(pidFile, "1");
-        if (geteuid() == 0)
-            QCOMPARE(chown(paths::pidFile, 65534, 65534), 0);
-        else
-            asNobody.clear(); // the first process is another user's anyway
-        Program program(asNobody); // nor is the bus for nobody
-        QCOMPARE(contentOf(pidFile), QByteArray::number(program.processId()));
-        QCOMPARE(program.leave("press close"), 1);
+        put(paths::pidFile, "1"); // another user's; nobody may still look into a closed build folder
+        const QString nobody = "setpriv --reuid=65534 --inh-caps=+dac_override --ambient-caps=+dac_override";
+        QCOMPARE(outcome("owns, press close", geteuid() == 0 ? nobody.split(' ') : QStringList()), "shown 1");
     }
 
     void leaves()
@@ -103,66 +64,45 @@ private Q_SLOTS:
         // A crash of the shell, which would turn one of systemctl into an exit code.
         put(m_bus.path("bin/sh"), "#!/bin/sh\nkill -9 $$\n");
         chmod(qPrintable(m_bus.path("bin/sh")), 0755);
-        const QString crash = "PATH=" + m_bus.path("bin:") + qgetenv("PATH");
-        // variable, status of the service, deed, exit status, "enabled" in the settings
-        const std::tuple<QString, int, const char *, int, QByteArray> ways[] = {
-            { "A=", 0, "press close", 1, {} },
-            { "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/", 0, "press close", 1, {} },
-            { "A=", 0, "close pairdesk", 1, {} },
-            { "A=", 0, "press ok", 0, "true" },
-            { "A=", 3, "press ok", 0, "false" },
-            { crash, 0, "press ok", 0, "false" },
+        // variable, status of the service, deed, outcome with a line of the settings
+        const std::tuple<QString, int, QString, QString> ways[] = {
+            { "A=", 0, "close pairdesk", "shown 1 " },
+            { "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/", 0, "press close", "shown 1 " },
+            { "A=", 3, "press ok", "shown 0 enabled=false" },
+            { "A=", 0, "press ok", "shown 0 enabled=true" },
+            { "PATH=" + m_bus.path("bin:") + qgetenv("PATH"), 0, "press ok", "shown 0 enabled=false" },
         };
-        for (const auto &[variable, service, deed, status, enabled] : ways) {
-            if (status == 0)
-                put(pidFile, "4194305"); // no process ever has this one
-            QFile::remove(TestBus::store());
+        for (const auto &[variable, service, deed, expected] : ways) {
+            put(paths::pidFile, QByteArray("4194305\0x", 9)); // no process ever has this one
             m_bus.scriptTool("systemctl", {}, service);
-            Program program({ variable });
-            QCOMPARE(contentOf(pidFile), QByteArray::number(program.processId()));
-            QCOMPARE(program.leave(deed), status);
-            const QByteArray rest = "debug=false\nenabled=" + enabled + "\nshowtrayicon=false\n";
-            QCOMPARE(contentOf(TestBus::store()), status == 0 ? "[General]\naudioprofile=\n" + rest : "");
-            QVERIFY(!QFile::exists(pidFile));
+            const QString found = outcome("owns, " + deed, { variable });
+            QCOMPARE(found + ' ' + contentOf(TestBus::store()).split('\n').value(3), expected);
+            QVERIFY(!QFile::exists(paths::pidFile));
         }
         m_bus.kill();
-        Program daemonless;
+        QCOMPARE(outcome("press ok"), "shown 0");
         m_bus.start();
-        QCOMPARE(daemonless.leave("press ok"), 0);
     }
 
-    void writesLog()
+    void writesFiles()
     {
         put(TestBus::store(), "[General]\ndebug=true\n");
         put(paths::debugLogFile, "an earlier run\n");
         m_bus.sim("SetDevice", { "00:1A:7D:10:00:01", QVariantMap{ { "Alias", QString(5000, 'x') } } });
-        Program program;
-        QCOMPARE(program.said, QByteArray("shown"));
-        QCOMPARE(kill(pid_t(program.processId()), SIGHUP), 0);
-        TRY(contentOf(paths::debugLogFile).count("- btagent::hupSignalHandler\n") == 1);
-        QCOMPARE(program.leave("press ok"), 0);
-        const QList<QByteArray> lines = contentOf(paths::debugLogFile).split('\n');
-        QVERIFY(lines[0] == "an earlier run" && lines[1].endsWith(")- pairdesk::pairdesk in"));
-        QVERIFY(
-            contentOf(paths::debugLogFile).contains("dev: " + QByteArray(1000, 'x') + ", type: headset\n"));
+        QCOMPARE(outcome("owns, hang, press ok"), "shown 0");
+        const QRegularExpression log("^an earlier run\n.*\\)- pairdesk::pairdesk in\n(.*\n)*"
+                                     ".*dev: x{1000}, type: headset\n(.*\n)*.*- btagent::hupSignalHandler\n");
+        QVERIFY2(log.match(contentOf(paths::debugLogFile)).hasMatch(), contentOf(paths::debugLogFile));
 
-        const QString linked = m_bus.path("log");
-        QVERIFY(QFile::remove(paths::debugLogFile) && symlink(qPrintable(linked), paths::debugLogFile) == 0);
-        QCOMPARE(Program().leave("press ok"), 0);
-        QVERIFY(!QFile::exists(linked));
-    }
-
-    void scansOnceOrTwice()
-    {
-        for (const int status : { 0, 1, 2 }) {
-            m_bus.scriptTool("hcitool", {}, status);
-            m_bus.takeCalls();
-            Program program;
-            QStringList scans;
-            TRY((scans += m_bus.takeCalls().filter("hcitool lescan"), !scans.isEmpty()));
-            QCOMPARE(program.leave("press close"), 1); // sees the click only after its scan
-            QCOMPARE((scans + m_bus.takeCalls().filter("hcitool lescan")).size(), status == 1 ? 2 : 1);
-        }
+        // Neither a link is followed nor a pipe waited for.
+        const QByteArray linked = m_bus.path("linked").toUtf8();
+        put(linked, "4194305");
+        QVERIFY(QFile::remove(paths::debugLogFile) && symlink(linked, paths::debugLogFile) == 0);
+        QCOMPARE(symlink(linked, paths::pidFile), 0);
+        QCOMPARE(outcome("press ok"), "shown 0");
+        QCOMPARE(mkfifo(paths::pidFile, 0600), 0); // the link is gone
+        QCOMPARE(outcome("press ok"), "shown 0");
+        QCOMPARE(contentOf(linked), "4194305");
     }
 
 private:
