@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program's own main(), run by this binary as a second process, with a user who does what a variable
 // says.
+#include "app/debuglog.h"
 #include "app/paths.h"
 #include "tests/support/hand.h"
 #include "tests/support/testbus.h"
 
-#include <QApplication>
 #include <QtTest>
 
 #include <csignal>
@@ -27,6 +27,7 @@ static void bringUser()
         user.verb("owns",
                   [](const QString &) { return contentOf(paths::pidFile) == QByteArray::number(getpid()); });
         user.verb("hang", [](const QString &) { raise(SIGHUP); });
+        user.verb("overflow", [](const QString &) { debugLog(3, "%s", QByteArray(4072, 'x').constData()); });
         user.does(qEnvironmentVariable("PAIRDESK_TEST_USER"));
     });
     look->start(5);
@@ -48,8 +49,7 @@ class TestProgram : public QObject {
 private Q_SLOTS:
     void looksForOthers()
     {
-        const QByteArray own = QByteArray::number(getpid());
-        for (const QByteArray &content : QByteArrayList{ own, "", "letters", "99999999999999999999" }) {
+        for (const QByteArray &content : QByteArrayList{ QByteArray::number(getpid()), "", "9999999999" }) {
             put(paths::pidFile, content);
             QCOMPARE(outcome("press ok"), "Another instance is running. Exit.\n0");
             QCOMPARE(contentOf(paths::pidFile), content);
@@ -59,34 +59,10 @@ private Q_SLOTS:
         QCOMPARE(outcome("owns, press close", geteuid() == 0 ? nobody.split(' ') : QStringList()), "shown 1");
     }
 
-    void leaves()
-    {
-        // A crash of the shell, which would turn one of systemctl into an exit code.
-        put(m_bus.path("bin/sh"), "#!/bin/sh\nkill -9 $$\n");
-        chmod(qPrintable(m_bus.path("bin/sh")), 0755);
-        // variable, status of the service, deed, outcome with a line of the settings
-        const std::tuple<QString, int, QString, QString> ways[] = {
-            { "A=", 0, "close pairdesk", "shown 1 " },
-            { "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/", 0, "press close", "shown 1 " },
-            { "A=", 3, "press ok", "shown 0 enabled=false" },
-            { "A=", 0, "press ok", "shown 0 enabled=true" },
-            { "PATH=" + m_bus.path("bin:") + qgetenv("PATH"), 0, "press ok", "shown 0 enabled=false" },
-        };
-        for (const auto &[variable, service, deed, expected] : ways) {
-            put(paths::pidFile, QByteArray("4194305\0x", 9)); // no process ever has this one
-            m_bus.scriptTool("systemctl", {}, service);
-            const QString found = outcome("owns, " + deed, { variable });
-            QCOMPARE(found + ' ' + contentOf(TestBus::store()).split('\n').value(3), expected);
-            QVERIFY(!QFile::exists(paths::pidFile));
-        }
-        m_bus.kill();
-        QCOMPARE(outcome("press ok"), "shown 0");
-        m_bus.start();
-    }
-
     void writesFiles()
     {
         put(TestBus::store(), "[General]\ndebug=true\n");
+        QCOMPARE(outcome("overflow"), "shown crashed");
         put(paths::debugLogFile, "an earlier run\n");
         m_bus.sim("SetDevice", { "00:1A:7D:10:00:01", QVariantMap{ { "Alias", QString(5000, 'x') } } });
         QCOMPARE(outcome("owns, hang, press ok"), "shown 0");
@@ -103,6 +79,30 @@ private Q_SLOTS:
         QCOMPARE(mkfifo(paths::pidFile, 0600), 0); // the link is gone
         QCOMPARE(outcome("press ok"), "shown 0");
         QCOMPARE(contentOf(linked), "4194305");
+    }
+
+    void leaves()
+    {
+        // A crash of the shell, which would turn one of systemctl into an exit code.
+        put(m_bus.path("bin/sh"), "#!/bin/sh\nkill -9 $$\n");
+        chmod(qPrintable(m_bus.path("bin/sh")), 0755);
+        // variable, status of the service, deed, outcome with a line of the settings
+        const std::tuple<QString, int, QString, QString> ways[] = {
+            { "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/", 0, "close pairdesk", "shown 1 " },
+            { "A=", 3, "press ok", "shown 0 enabled=false" },
+            { "A=", 0, "press ok", "shown 0 enabled=true" },
+            { "PATH=" + m_bus.path("bin:") + qgetenv("PATH"), 0, "press ok", "shown 0 enabled=false" },
+        };
+        QFile::remove(TestBus::store());
+        for (const auto &[variable, service, deed, expected] : ways) {
+            put(paths::pidFile, QByteArray("4194305\0x", 9)); // no process ever has this one
+            m_bus.scriptTool("systemctl", {}, service);
+            const QString found = outcome("owns, " + deed, { variable });
+            QCOMPARE(found + ' ' + contentOf(TestBus::store()).split('\n').value(3), expected);
+            QVERIFY(!QFile::exists(paths::pidFile));
+        }
+        m_bus.kill();
+        QCOMPARE(outcome("press ok"), "shown 0");
     }
 
 private:
