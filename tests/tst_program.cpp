@@ -59,6 +59,30 @@ private Q_SLOTS:
         QCOMPARE(outcome("owns, press close", geteuid() == 0 ? nobody.split(' ') : QStringList()), "shown 1");
     }
 
+    void leaves()
+    {
+        // A crash of the shell, which would turn one of systemctl into an exit code.
+        put(m_bus.path("bin/sh"), "#!/bin/sh\nkill -9 $$\n");
+        chmod(qPrintable(m_bus.path("bin/sh")), 0755);
+        // variable, status of the service, deed, outcome with a line of the settings
+        const std::tuple<QString, int, QString, QString> ways[] = {
+            { "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/", 0, "close pairdesk", "shown 1 " },
+            { "A=", 3, "press ok", "shown 0 enabled=false" },
+            { "A=", 0, "press ok", "shown 0 enabled=true" },
+            { "PATH=" + m_bus.path("bin:") + qgetenv("PATH"), 0, "press ok", "shown 0 enabled=false" },
+        };
+        for (const auto &[variable, service, deed, expected] : ways) {
+            put(paths::pidFile, QByteArray("4194305\0x", 9)); // no process ever has this one
+            m_bus.scriptTool("systemctl", {}, service);
+            const QString found = outcome("owns, " + deed, { variable });
+            QCOMPARE(found + ' ' + contentOf(TestBus::store()).split('\n').value(3), expected);
+            QVERIFY(!QFile::exists(paths::pidFile));
+        }
+        m_bus.kill();
+        QCOMPARE(outcome("press ok"), "shown 0");
+        m_bus.start();
+    }
+
     void writesFiles()
     {
         put(TestBus::store(), "[General]\ndebug=true\n");
@@ -79,30 +103,6 @@ private Q_SLOTS:
         QCOMPARE(mkfifo(paths::pidFile, 0600), 0); // the link is gone
         QCOMPARE(outcome("press ok"), "shown 0");
         QCOMPARE(contentOf(linked), "4194305");
-    }
-
-    void leaves()
-    {
-        // A crash of the shell, which would turn one of systemctl into an exit code.
-        put(m_bus.path("bin/sh"), "#!/bin/sh\nkill -9 $$\n");
-        chmod(qPrintable(m_bus.path("bin/sh")), 0755);
-        // variable, status of the service, deed, outcome with a line of the settings
-        const std::tuple<QString, int, QString, QString> ways[] = {
-            { "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/", 0, "close pairdesk", "shown 1 " },
-            { "A=", 3, "press ok", "shown 0 enabled=false" },
-            { "A=", 0, "press ok", "shown 0 enabled=true" },
-            { "PATH=" + m_bus.path("bin:") + qgetenv("PATH"), 0, "press ok", "shown 0 enabled=false" },
-        };
-        QFile::remove(TestBus::store());
-        for (const auto &[variable, service, deed, expected] : ways) {
-            put(paths::pidFile, QByteArray("4194305\0x", 9)); // no process ever has this one
-            m_bus.scriptTool("systemctl", {}, service);
-            const QString found = outcome("owns, " + deed, { variable });
-            QCOMPARE(found + ' ' + contentOf(TestBus::store()).split('\n').value(3), expected);
-            QVERIFY(!QFile::exists(paths::pidFile));
-        }
-        m_bus.kill();
-        QCOMPARE(outcome("press ok"), "shown 0");
     }
 
 private:
