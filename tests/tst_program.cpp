@@ -86,7 +86,7 @@ private Q_SLOTS:
     void writesFiles()
     {
         put(TestBus::store(), "[General]\ndebug=true\n");
-        QCOMPARE(outcome("overflow"), "shown crashed");
+        QCOMPARE(outcome("overflow, press close"), "shown crashed");
         put(paths::debugLogFile, "an earlier run\n");
         m_bus.sim("SetDevice", { "00:1A:7D:10:00:01", QVariantMap{ { "Alias", QString(5000, 'x') } } });
         QCOMPARE(outcome("owns, hang, press ok"), "shown 0");
