@@ -100,69 +100,58 @@ QStringList rows(const QTableWidget *table)
 }
 
 /** The size of a window, and the places and texts of its parts. */
-static QStringList layout(const QWidget *window, const QList<QWidget *> &parts)
+static void tellLayout(QTextStream &out, const QWidget *window, const QList<QWidget *> &parts)
 {
-    const QString size = window->minimumSize() == window->maximumSize() ? "fixed" : "free";
-    QStringList lines(QString("  %1 %2x%3 %4")
-                          .arg(window->windowTitle())
-                          .arg(window->width())
-                          .arg(window->height())
-                          .arg(size));
+    const bool isFixed = window->minimumSize() == window->maximumSize();
+    out << "\n  " << window->windowTitle() << ' ' << window->width() << 'x' << window->height()
+        << (isFixed ? " fixed" : " free");
     for (const QWidget *part : parts) {
         const QRect place = part->geometry();
-        QString text = part->property("text").toString() + part->property("title").toString();
+        const QString text = part->property("text").toString() + part->property("title").toString();
+        out << "\n  " << part->objectName() << ' ' << place.x() << ',' << place.y() << ' ' << place.width()
+            << 'x' << place.height() << ' ' << text;
         const bool hasBox = part->property("checkable").toBool();
-        if (place.width()
-            < (hasBox ? part->sizeHint().width() : part->fontMetrics().tightBoundingRect(text).width()))
-            text += " TOO WIDE";
+        const int wanted = hasBox ? part->sizeHint().width()
+                                  : part->fontMetrics().tightBoundingRect(text).width();
+        out << (wanted > place.width() ? " TOO WIDE" : "");
         const auto *table = qobject_cast<const QTableWidget *>(part);
         for (int column = 0; table && column < table->columnCount(); ++column) {
-            const QString title = table->horizontalHeaderItem(column)->text();
             const int width = table->columnWidth(column);
-            text += title + QString(" %1 ").arg(width);
-            if (table->horizontalHeader()->fontMetrics().horizontalAdvance(title) + 8 > width)
-                text += "TOO WIDE";
-            for (int row = 0; column > 0 && row < table->rowCount(); ++row) { // names may be cut
-                const QTableWidgetItem *item = table->item(row, column);
-                if (item && table->fontMetrics().horizontalAdvance(item->text()) + 8 > width)
-                    text += "TOO WIDE " + item->text();
-            }
+            out << ' ' << table->horizontalHeaderItem(column)->text() << ' ' << width;
+            const QAbstractItemView *view = table; // names may be cut
+            if (table->horizontalHeader()->sectionSizeHint(column) > width
+                || (column > 0 && view->sizeHintForColumn(column) > width))
+                out << " TOO WIDE";
         }
         if (table && (table->horizontalScrollBar()->isVisible() || table->verticalScrollBar()->isVisible()))
-            text += "SCROLLS";
+            out << " SCROLLS";
         for (const QWidget *other : parts) {
             const QRect common = place & other->geometry();
             if (part != other && part->parent() == other->parent() && common.width() > 1
                 && common.height() > 1)
-                text += " OVERLAPS " + other->objectName();
+                out << " OVERLAPS " << other->objectName();
         }
-        lines += QString("  %1 %2,%3 %4x%5 ")
-                     .arg(part->objectName())
-                     .arg(place.x())
-                     .arg(place.y())
-                     .arg(place.width())
-                     .arg(place.height())
-                 + text;
     }
-    return lines;
 }
 
 /** A window's line and those below it: its own parts, less those inside Qt's widgets. */
-static QStringList told(const QWidget *window, bool withLayout)
+static void tell(QTextStream &out, const QWidget *window, bool withLayout)
 {
-    if (const auto *box = qobject_cast<const QMessageBox *>(window))
-        return QString("box%1 %2: %3%4")
-            .arg(box->icon())
-            .arg(box->windowTitle(), box->text(), box->textFormat() == Qt::PlainText ? "" : " RICH")
-            .split('\n');
-    QStringList words(window->objectName()), rowLines;
+    if (const auto *box = qobject_cast<const QMessageBox *>(window)) {
+        out << "box" << box->icon() << ' ' << box->windowTitle() << ": " << box->text()
+            << (box->textFormat() == Qt::PlainText ? "" : " RICH");
+        return;
+    }
+    out << window->objectName();
     for (const QAction *action : window->actions())
-        words += action->text();
-    QList<QWidget *> parts;
-    for (QWidget *part : window->findChildren<QWidget *>(QRegularExpression("^(?!qt_).+"))) {
-        if (!part->isVisibleTo(window) || part->window() != window)
-            continue;
-        parts += part;
+        out << ' ' << action->text();
+    QList<QWidget *> parts = window->findChildren<QWidget *>(QRegularExpression("^(?!qt_).+"));
+    parts.erase(
+        std::remove_if(parts.begin(), parts.end(),
+                       [=](QWidget *part) { return !part->isVisibleTo(window) || part->window() != window; }),
+        parts.end());
+    QString rowLines;
+    for (const QWidget *part : parts) {
         QString value = part->property("currentText").toString();
         const auto *label = qobject_cast<const QLabel *>(part);
         if (part->property("checkable").toBool())
@@ -174,28 +163,30 @@ static QStringList told(const QWidget *window, bool withLayout)
                         ? "=on"
                         : "=off";
         if (!label || !value.isEmpty())
-            words += (part->isEnabled() ? "" : "-") + part->objectName() + (part->hasFocus() ? "*" : "")
-                     + value;
-        if (const auto *table = qobject_cast<const QTableWidget *>(part)) {
-            const QStringList texts = rows(table);
-            for (int row = 0; row < texts.size(); ++row)
-                rowLines += (row == table->currentRow() ? " @" : "  ")
-                            + QString(texts[row]).replace('\n', "\\n");
-        }
+            out << (part->isEnabled() ? " " : " -") << part->objectName() << (part->hasFocus() ? "*" : "")
+                << value;
+        const auto *table = qobject_cast<const QTableWidget *>(part);
+        for (int row = 0; table && row < table->rowCount(); ++row)
+            rowLines += (row == table->currentRow() ? "\n @" : "\n  ")
+                        + rows(table)[row].replace('\n', "\\n");
     }
-    return words.join(' ').split('\n', Qt::SkipEmptyParts) + rowLines
-           + (withLayout ? layout(window, parts) : QStringList());
+    out << rowLines;
+    if (withLayout)
+        tellLayout(out, window, parts);
 }
 
 QStringList Desk::view(bool withLayout)
 {
     QStringList windows;
     for (const QWidget *window : QApplication::topLevelWidgets()) {
+        QString told;
+        QTextStream out(&told);
         if (window->isVisible() && !window->objectName().startsWith("qt_"))
-            windows += told(window, withLayout).join("\n= ");
+            tell(out, window, withLayout);
+        windows += told;
     }
     windows.sort();
-    return windows;
+    return windows.join('\n').split('\n', Qt::SkipEmptyParts);
 }
 
 /** What the deed has changed up to now. */
@@ -204,27 +195,23 @@ QStringList Desk::effect(bool withLayout)
     static const QRegularExpression same("^.*?\\)- | item: \\K(?!0$)[0-9a-f]+$",
                                          QRegularExpression::MultilineOption);
     const QString log = QString::fromUtf8(contentOf(path("log"))).remove(same);
-    QStringList lines = log.split('\n', Qt::SkipEmptyParts).mid(m_logged);
     m_calls += takeCalls();
-    QStringList shown = m_calls + view(withLayout) + QStringList("stored " + contentOf(store()).simplified());
+    QString state = "stored " + contentOf(store()).simplified();
+    QTextStream out(&state);
     if (agent && agent->device)
-        shown += "current device " + agent->device->name().simplified();
+        out << "\ncurrent device " << agent->device->name().simplified();
     if (agent && (agent->cancelled || agent->pinCodeRequested))
-        shown += QString(
-                     "agent: pin %1 passkey %2 entered %3 confirmation %4 service %5 asked %6%7 over %8%9")
-                     .arg(agent->pinCode, agent->passkey, agent->enteredPasskey, agent->confirmationPasskey,
-                          agent->serviceUuid)
-                     .arg(agent->pinCodeRequested)
-                     .arg(agent->passkeyRequested)
-                     .arg(agent->cancelled)
-                     .arg(agent->released);
+        out << "\nagent: pin " << agent->pinCode << " passkey " << agent->passkey << " entered "
+            << agent->enteredPasskey << " confirmation " << agent->confirmationPasskey << " service "
+            << agent->serviceUuid << " asked " << agent->pinCodeRequested << agent->passkeyRequested
+            << " over " << agent->cancelled << agent->released;
     if (window && !window->isVisible())
-        shown += window->m_bOk ? "left with OK" : "left";
+        out << "\nleft" << (window->m_bOk ? " with OK" : "");
     if (QApplication::overrideCursor())
-        shown += QString("cursor %1").arg(QApplication::overrideCursor()->shape());
-    for (const QString &line : std::as_const(shown))
-        lines += ("= " + line).split('\n');
-    return lines;
+        out << "\ncursor " << QApplication::overrideCursor()->shape();
+    const QStringList shown = m_calls + view(withLayout) + state.split('\n');
+    return log.split('\n', Qt::SkipEmptyParts).mid(m_logged)
+           + QStringList(shown).replaceInStrings(QRegularExpression("^"), "= ");
 }
 
 bool Desk::hasEffect(const QString &deed, QString *why)
@@ -247,8 +234,8 @@ bool Desk::hasEffect(const QString &deed, QString *why)
         m_seen.start();
     const QString all = found.join('\n');
 #if QT_VERSION_MAJOR > 5 // whose hash table, and so the manager, keeps devices in another order
-    found.sort();
-    wanted.sort();
+    for (QStringList *lines : { &found, &wanted })
+        lines->replaceInStrings(QRegularExpression("row:\\d+"), "row").sort();
 #endif
     if (isRecording ? !m_seen.hasExpired(1000) : found != wanted) {
         *why = "after " + deed + " expected\n" + wanted.join('\n') + "\n\nbut found\n" + all;
