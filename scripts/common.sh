@@ -13,8 +13,8 @@ test_packages=(nodejs)
 screen_packages=(imagemagick xdotool xvfb)
 real_packages=(alsa-utils at-spi2-core bluez bluez-test-tools busybox-static cpio dbus gir1.2-atspi-2.0 kmod
     libasound2-plugins libglib2.0-bin libpam-systemd libspa-0.2-bluetooth pipewire pipewire-bin
-    pipewire-pulse polkitd pulseaudio pulseaudio-module-bluetooth
-    pulseaudio-utils qemu-system-x86 sound-theme-freedesktop systemd wireplumber x11-utils)
+    pipewire-pulse polkitd psmisc pulseaudio pulseaudio-module-bluetooth
+    pulseaudio-utils qemu-system-x86 qtwayland5 sound-theme-freedesktop systemd weston wireplumber x11-utils)
 
 # Installs those of the packages that are missing; a prepared machine needs neither rights nor a network.
 need() {

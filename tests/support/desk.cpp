@@ -233,10 +233,14 @@ bool Desk::hasEffect(const QString &deed, QString *why)
     if (isRecording && !m_seen.isValid())
         m_seen.start();
     const QString all = found.join('\n');
-#if QT_VERSION_MAJOR > 5 // whose hash table, and so the manager, keeps devices in another order
-    for (QStringList *lines : { &found, &wanted })
-        lines->replaceInStrings(QRegularExpression("(row:)\\d+|(^= )  |(^= ) @"), "\\1\\2\\3").sort();
-#endif
+    // With Qt 6 the hash table, and so the manager, keeps devices in another order; without a seat nothing
+    // has the focus.
+    const bool isExact = QT_VERSION_MAJOR == 5 && QGuiApplication::platformName() == "offscreen";
+    static const QRegularExpression varying("(row:)\\d+|(^= )  |(^= ) @|\\*");
+    for (QStringList *lines : { &found, &wanted }) {
+        if (!isExact)
+            lines->replaceInStrings(varying, "\\1\\2\\3").sort();
+    }
     if (isRecording ? !m_seen.hasExpired(1000) : found != wanted) {
         *why = "after " + deed + " expected\n" + wanted.join('\n') + "\n\nbut found\n" + all;
         return false;
