@@ -12,7 +12,7 @@ demo_packages=(dbus-bin dbus-daemon procps python3-dbus python3-gi)
 test_packages=(nodejs)
 screen_packages=(imagemagick xdotool xvfb)
 real_packages=(alsa-utils at-spi2-core bluez bluez-test-tools busybox-static cpio dbus gir1.2-atspi-2.0 kmod
-    libasound2-plugins libglib2.0-bin libpam-systemd libspa-0.2-bluetooth pipewire pipewire-bin
+    libasound2-plugins libpam-systemd libspa-0.2-bluetooth pipewire pipewire-bin
     pipewire-pulse polkitd psmisc pulseaudio pulseaudio-module-bluetooth
     pulseaudio-utils qemu-system-x86 qtwayland5 sound-theme-freedesktop systemd weston wireplumber x11-utils)
 
