@@ -134,7 +134,9 @@ void TestRoads::fits()
         press options, look, close options, press add, look, row Keys, press pairconnect, see Pin, look, leave)");
     QCOMPARE(seen.size(), 6);
     const QStringList lines = seen.join('\n').split('\n');
-    QCOMPARE(lines.filter(QRegularExpression("TOO WIDE|OVERLAPS|SCROLLS")).join('\n'), QString());
+    // The line above the PIN is higher than its place, on purpose.
+    const QRegularExpression fault("TOO WIDE|OVERLAPS|SCROLLS|^(?!  label 80,20 271x17 ).*TOO HIGH");
+    QCOMPARE(lines.filter(fault).join('\n'), QString());
 }
 
 /** Which is that of a hash table; strangers make it grow. */

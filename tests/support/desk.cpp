@@ -114,6 +114,7 @@ static void tellLayout(QTextStream &out, const QWidget *window, const QList<QWid
         const int wanted = hasBox ? part->sizeHint().width()
                                   : part->fontMetrics().tightBoundingRect(text).width();
         out << (wanted > place.width() ? " TOO WIDE" : "");
+        out << (!text.isEmpty() && part->fontMetrics().height() > place.height() ? " TOO HIGH" : "");
         const auto *table = qobject_cast<const QTableWidget *>(part);
         for (int column = 0; table && column < table->columnCount(); ++column) {
             const int width = table->columnWidth(column);
