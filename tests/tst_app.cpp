@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/appsettings.h"
 #include "app/commandrunner.h"
 #include "app/debuglog.h"
 #include "app/language.h"
@@ -34,19 +33,6 @@ private Q_SLOTS:
         const QByteArray log = contentOf(paths::debugLogFile);
         const QTime time = QTime::fromString(lines.match(log).captured(1));
         QVERIFY2(time.isValid() && (time.secsTo(QTime::currentTime()) + 86400) % 86400 < 10, log);
-    }
-
-    void readsSettings()
-    {
-        AppSettings read;
-        QCOMPARE(read.audioProfile, "A2DP");
-        for (const QByteArray content : { "[General]\naudioprofile=x\nenabled=true\nshowtrayicon=true\n", "",
-                                          "[General]\naudioprofile=@Variant(\\xff)\n", "\xff[]\n=\x80\n" }) {
-            put(TestBus::store(), content);
-            read.load();
-            const bool on = content.contains("true");
-            QVERIFY(read.audioProfile == (on ? "x" : "") && read.enabled == on && read.showTrayIcon == on);
-        }
     }
 
     void choosesLanguage()

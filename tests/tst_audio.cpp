@@ -14,82 +14,71 @@ class TestAudio : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsProfileLines();
-    void readsCards();
-    void writesCommands();
+    void readsProfileLines()
+    {
+        const std::pair<const char *, const char *> table[] = {
+            { "\t\ta2dp_sink: High Fidelity Playback (A2DP Sink) (sinks: 1, sources: 0, priority: 40)",
+              "a2dp_sink|High Fidelity Playback (A2DP Sink)|1|0" },
+            { "\toff: Off (sinks: 0, sources: 0, priority: 0, available: yes)", "off|Off|0|0" },
+            { "many: B & C (x: y) (sinks: 12, sources: 34)", "many|B & C (x: y)|1|3" },
+            { "no 123456 colon", "no 123456 colon||0|0" },
+            { "no sinks: Y (sources: 2)", "no sinks|Y (sources: 2)|0|2" },
+            { "no description:(sinks: 1", "no description||1|0" },
+        };
+        for (const auto &[line, fields] : table) {
+            const AudioProfile read(line);
+            const QString numbers = QString("|%1|%2").arg(read.sinks).arg(read.sources);
+            QCOMPARE(read.name + '|' + read.description + numbers, QString(fields));
+        }
+    }
+
+    /** Of each listing and key: how many profiles, the last one, the active one. */
+    void readsCards()
+    {
+        const QString pulseAudio = contentOf(TEST_DATA "/pactl/pulseaudio-cards.txt");
+        const QString pipeWire = contentOf(TEST_DATA "/pactl/pipewire-cards.txt");
+        const std::tuple<QString, const char *, const char *> table[] = {
+            { pulseAudio, "bluez_card.00_AA_01_01_00_01", "3 off a2dp_sink" },
+            { pipeWire, "VHeadset", "3 headset-head-unit audio-gateway" },
+            { pipeWire, "bluez_card.", "18 headset-head-unit-msbc audio-gateway" },
+            { pipeWire, "vheadset", "0  (none)" },
+            { "Card #1 x\nProfiles:\n\t\ta: A\n\t\tb: B", "x", "2 b (none)" },
+            { "Card #1 x\nProfiles:\n\t\ta: A\n\tActive Profile:\n", "x", "1 a " },
+        };
+        for (const auto &[listing, key, told] : table) {
+            const CardProfiles whole = parseCards(listing, key, address);
+            const QString last = AudioProfile(whole.lines.value(whole.lines.size() - 1)).name;
+            const QString active = whole.active.value_or("(none)");
+            QCOMPARE(QString("%1 %2 %3").arg(QString::number(whole.lines.size()), last, active),
+                     QString(told));
+        }
+    }
+
+    void writesCommands()
+    {
+        QCOMPARE(record(" Mk-2  x:y "),
+                 QString("parecord --channels=1 --device= Mk-2  x:y  /tmp/sample.wav"));
+        QCOMPARE(setCardProfile("My  Headset ", "off").join('|'), QString("set-card-profile|My|Headset|off"));
+
+        const QString note =
+            "pactl() { :; }; grep() { printf '<%s>' \"$@\"; }; parecord() { grep \"$@\"; }; ";
+        const QString keys =
+            "x\"; touch owned; \" @ x'; touch owned; ' @ $(touch owned) @ `touch owned` @ x\n"
+            "touch owned\n @ x | touch owned @ x & touch owned @ > owned @ -re . @ --help"
+            " @ a -v b @ ~root @ * @ p? @ Kopfhörer @ \\ @ \t @ ${PATH} @ #x @ {a,b}";
+        const QStringList hostile = keys.split(" @ ");
+        for (const QString &key : hostile) {
+            const QString pattern = key.startsWith('-') ? "[-]" + key.mid(1) : key;
+            const QString listed = runShell(note + listSinks(key), 30000).standardOutput;
+            QCOMPARE(listed, '<' + pattern + '>');
+            const QString recorded = runShell(note + record(key), 30000).standardOutput;
+            QCOMPARE(recorded, "<--channels=1><--device=" + key + "></tmp/sample.wav>");
+            QCOMPARE(listSources(key), listSinks(key).replace("sinks", "sources") + " | grep -v monitor");
+            QCOMPARE(setCardProfile(key, "x"), QStringList({ "--", "set-card-profile", key, "x" }));
+            QCOMPARE(setCardProfile("x", key), QStringList({ "--", "set-card-profile", "x", key }));
+        }
+    }
 };
-
-void TestAudio::readsProfileLines()
-{
-    const std::pair<const char *, const char *> table[] = {
-        { "\t\ta2dp_sink: High Fidelity Playback (A2DP Sink) (sinks: 1, sources: 0, priority: 40)",
-          "a2dp_sink|High Fidelity Playback (A2DP Sink)|1|0" },
-        { "\toff: Off (sinks: 0, sources: 0, priority: 0, available: yes)", "off|Off|0|0" },
-        { "many: B & C (x: y) (sinks: 12, sources: 34)", "many|B & C (x: y)|1|3" },
-        { "no 123456 colon", "no 123456 colon||0|0" },
-        { "no sinks: Y (sources: 2)", "no sinks|Y (sources: 2)|0|2" },
-        { "no description:(sinks: 1", "no description||1|0" },
-    };
-    for (const auto &[line, fields] : table) {
-        const AudioProfile read(line);
-        const QString numbers = QString("|%1|%2").arg(read.sinks).arg(read.sources);
-        QCOMPARE(read.name + '|' + read.description + numbers, QString(fields));
-    }
-}
-
-/** Of each listing and key: how many profiles, the last one, the active one. */
-void TestAudio::readsCards()
-{
-    const QString pulseAudio = contentOf(TEST_DATA "/pactl/pulseaudio-cards.txt");
-    const QString pipeWire = contentOf(TEST_DATA "/pactl/pipewire-cards.txt");
-    const std::tuple<QString, const char *, const char *> table[] = {
-        { pulseAudio, "bluez_card.00_AA_01_01_00_01", "3 off a2dp_sink" },
-        { pipeWire, "VHeadset", "3 headset-head-unit audio-gateway" },
-        { pipeWire, "bluez_card.", "18 headset-head-unit-msbc audio-gateway" },
-        { pipeWire, "vheadset", "0  (none)" },
-        { "Card #1 x\nProfiles:\n\t\ta: A\n\t\tb: B", "x", "2 b (none)" },
-        { "Card #1 x\nProfiles:\n\t\ta: A\n\tActive Profile:\n", "x", "1 a " },
-    };
-    for (const auto &[listing, key, told] : table) {
-        const CardProfiles whole = parseCards(listing, key, address);
-        const QString last = AudioProfile(whole.lines.value(whole.lines.size() - 1)).name;
-        const QString active = whole.active.value_or("(none)");
-        QCOMPARE(QString("%1 %2 %3").arg(QString::number(whole.lines.size()), last, active), QString(told));
-    }
-    const CardProfiles whole = parseCards(pulseAudio, "VBox", address);
-    for (int length = 0; length <= pulseAudio.size(); ++length) {
-        const CardProfiles cut = parseCards(pulseAudio.left(length), "VBox", address);
-        QVERIFY(whole.active->startsWith(cut.active.value_or(QString())));
-        const QStringList sure = cut.lines.mid(0, cut.active ? -1 : cut.lines.size() - 1);
-        QCOMPARE(sure, whole.lines.mid(0, sure.size()));
-    }
-}
-
-void TestAudio::writesCommands()
-{
-    QCOMPARE(listSinks(sinkKey(address, "a2dp_sink")),
-             QString("pactl list sinks short | grep bluez_sink.00_1A_7D_10_00_01.a2dp_sink"));
-    QCOMPARE(listSources(sourceKey(address, "")),
-             QString("pactl list sources short | grep bluez_source.00_1A_7D_10_00_01. | grep -v monitor"));
-    QCOMPARE(record(" Mk-2  x:y "), QString("parecord --channels=1 --device= Mk-2  x:y  /tmp/sample.wav"));
-    QCOMPARE(setCardProfile("My  Headset ", "off").join('|'), QString("set-card-profile|My|Headset|off"));
-
-    const QString note = "pactl() { :; }; grep() { printf '<%s>' \"$@\"; }; parecord() { grep \"$@\"; }; ";
-    const QString keys = "x\"; touch owned; \" @ x'; touch owned; ' @ $(touch owned) @ `touch owned` @ x\n"
-                         "touch owned\n @ x | touch owned @ x & touch owned @ > owned @ -re . @ --help"
-                         " @ a -v b @ ~root @ * @ p? @ Kopfhörer @ \\ @ \t @ ${PATH} @ #x @ {a,b}";
-    const QStringList hostile = keys.split(" @ ");
-    for (const QString &key : hostile) {
-        const QString pattern = key.startsWith('-') ? "[-]" + key.mid(1) : key;
-        const QString listed = runShell(note + listSinks(key), 30000).standardOutput;
-        QCOMPARE(listed, '<' + pattern + '>');
-        const QString recorded = runShell(note + record(key), 30000).standardOutput;
-        QCOMPARE(recorded, "<--channels=1><--device=" + key + "></tmp/sample.wav>");
-        QCOMPARE(listSources(key), listSinks(key).replace("sinks", "sources") + " | grep -v monitor");
-        QCOMPARE(setCardProfile(key, "x"), QStringList({ "--", "set-card-profile", key, "x" }));
-        QCOMPARE(setCardProfile("x", key), QStringList({ "--", "set-card-profile", "x", key }));
-    }
-}
 
 QTEST_GUILESS_MAIN(TestAudio)
 #include "tst_audio.moc"

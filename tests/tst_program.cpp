@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's own main(), run by this binary as a second process, with a user who does what a variable
-// says.
+// The program's own main(), run by this binary as a second process, with a user told by PAIRDESK_TEST_USER.
 #include "app/debuglog.h"
 #include "app/paths.h"
 #include "tests/support/hand.h"
@@ -73,9 +72,9 @@ private Q_SLOTS:
         };
         for (const auto &[variable, service, deed, expected] : ways) {
             put(paths::pidFile, QByteArray("4194305\0x", 9)); // no process ever has this one
-            m_bus.scriptTool("systemctl", {}, service);
+            put(m_bus.path("tools/systemctl.status"), QByteArray::number(service));
             const QString found = outcome("owns, " + deed, { variable });
-            QCOMPARE(found + ' ' + contentOf(TestBus::store()).split('\n').value(3), expected);
+            QCOMPARE(found + ' ' + contentOf(TestBus::store).split('\n').value(3), expected);
             QVERIFY(!QFile::exists(paths::pidFile));
         }
         m_bus.kill();
@@ -85,10 +84,10 @@ private Q_SLOTS:
 
     void writesFiles()
     {
-        put(TestBus::store(), "[General]\ndebug=true\n");
+        put(TestBus::store, "[General]\ndebug=true\n");
         QCOMPARE(outcome("overflow, press close"), "shown crashed");
         put(paths::debugLogFile, "an earlier run\n");
-        m_bus.sim("SetDevice", { "00:1A:7D:10:00:01", QVariantMap{ { "Alias", QString(5000, 'x') } } });
+        m_bus.sim("name " + QString(5000, 'x'));
         QCOMPARE(outcome("owns, hang, press ok"), "shown 0");
         const QRegularExpression log("^an earlier run\n.*\\)- pairdesk::pairdesk in\n(.*\n)*"
                                      ".*dev: x{1000}, type: headset\n(.*\n)*.*- btagent::hupSignalHandler\n");

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is done again and again costs no more memory, and no more connections than the two that a scan adds.
-#include "bluetooth/btagent.h"
 #include "tests/support/desk.h"
 
 #include <BluezQt/Adapter>
-#include <BluezQt/Device>
 #include <QtTest>
 #include <QtWidgets>
 
@@ -31,8 +29,8 @@ static void lasts(int times, const QString &before, const QString &round)
         return desk.device("Cans")->findChildren<BluezQt::PendingCall *>().isEmpty();
     });
     desk.verb("measure", [&](const QString &) { // what outlives the dialogs
-        counts += connections(desk.manager()) + connections(desk.agent)
-                  + connections(desk.manager()->adapters().first().data())
+        counts += connections(&desk.manager) + connections(desk.agent)
+                  + connections(desk.manager.adapters().first().data())
                   + connections(desk.device("Cans").data()) + QApplication::topLevelWidgets().size();
         sizes += contentOf("/proc/self/statm").split(' ').value(1).toInt() * 4;
     });

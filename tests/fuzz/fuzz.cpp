@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Any bytes: as what a tool lists, what a sound server calls its things, what a PID file holds, and as a
-// text.
+// Any bytes: as what tools list, what a sound server calls its things, what a PID file holds, as a text.
 #include "app/singleinstance.h"
 #include "app/text.h"
 #include "dialogs/audiocommands.h"

@@ -1,22 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "bluetooth/btagent.h"
 #include "mainwindow/pairdesk.h"
 #include "tests/support/hand.h"
 #include "tests/support/testbus.h"
 
+#include <BluezQt/Device>
+#include <BluezQt/Manager>
 #include <QTimer>
 
-class btagent;
+#include <memory>
 
 /**
- * The daemon, the main window and a user. Further verbs: what the daemon's Do() takes; name and alias (of a
- * device, with blanks in it), tool, open (the window), switch, kill and start (the daemon), operational on,
- * devices COUNT, look.
+ * The daemon, the main window and a user. Further verbs: what the daemon's Do() takes; file PATH CONTENT,
+ * open (the window), switch, kill and start (the daemon), operational on, devices COUNT, look.
  */
 class Desk : public TestBus, public Hand {
 public:
-    explicit Desk(const QString &scene = "--empty");
+    Desk();
     ~Desk();
 
     /**
@@ -29,6 +31,10 @@ public:
     /** What all windows show, each in a line with further ones below it: for its rows, for its layout. */
     static QStringList view(bool withLayout);
 
+    /** The device with this name in the manager, null when there is none. */
+    BluezQt::DevicePtr device(const QString &name) const;
+
+    BluezQt::Manager manager;
     std::unique_ptr<pairdesk> window;
     btagent *agent = nullptr;
     QTableWidget *table = nullptr;
@@ -41,13 +47,10 @@ private:
 
     QStringList m_sections; // of the record, what is told of the deed under way first
     bool m_withLog = false;
-    int m_logged = 0; // lines of the log that belong to former deeds
-    QStringList m_calls; // since the deed
+    QStringList m_log, m_calls; // since the last deed
+    int m_logged = 0, m_called = 0; // before it
     QTimer m_turn; // over when whatever the event loop had to do is done
     int m_calm = 0; // turns since the daemon has answered
     QElapsedTimer m_seen; // while recording
     QByteArray m_record;
 };
-
-/** The texts of the table's rows, each joined by "|"; an emptied row gives an empty text. */
-QStringList rows(const QTableWidget *table);

@@ -21,10 +21,7 @@ public:
     /** Returns with every window left that was opened on the way. */
     void does(const QStringList &deeds);
     /** What the lines say, separated by commas. */
-    void does(const QString &deeds)
-    {
-        does(deeds.split(QRegularExpression(",?\n *|, *"), Qt::SkipEmptyParts));
-    }
+    void does(const QString &deeds) { does(deeds.split(QRegularExpression("[,\n] *"), Qt::SkipEmptyParts)); }
     /** Adds a verb: it is tried until it returns true, or done once when it returns nothing. */
     template <typename F> void verb(const QString &name, const F &function)
     {
