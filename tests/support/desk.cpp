@@ -88,9 +88,8 @@ BluezQt::DevicePtr Desk::device(const QString &name) const
 /** The size of a window, and the places and texts of its parts. */
 static void tellLayout(QTextStream &out, const QWidget *window, const QList<QWidget *> &parts)
 {
-    const bool isFixed = window->minimumSize() == window->maximumSize();
     out << "\n  " << window->windowTitle() << ' ' << window->width() << 'x' << window->height()
-        << (isFixed ? " fixed" : " free");
+        << (window->minimumSize() == window->maximumSize() ? " fixed" : " free");
     for (const QWidget *part : parts) {
         const QRect place = part->geometry();
         const QString text = part->property("text").toString() + part->property("title").toString();
