@@ -68,7 +68,7 @@ private Q_SLOTS:
         QFETCH(QString, blow);
         Scene scene(place);
         scene.does(scene.way + blow + R"(, leave, device Next Class=0x2540
-            press add, row Next, press pairconnect, see QMessageBox, leave, row Next, press disconnect)");
+            press add, row Next, press pairconnect, see QMessageBox, leave, press disconnect@Next)");
     }
 
     /** One place to a process, which gets no bus again. */

@@ -51,6 +51,5 @@ private:
     int m_logged = 0, m_called = 0; // before it
     QTimer m_turn; // over when whatever the event loop had to do is done
     int m_calm = 0; // turns since the daemon has answered
-    QElapsedTimer m_seen; // while recording
     QByteArray m_record;
 };

@@ -16,6 +16,15 @@ static QTableWidgetItem *cell(const QString &text)
     return found.first();
 }
 
+static bool choose(const QString &row)
+{
+    const QTableWidgetItem *item = cell(row);
+    if (item)
+        QTest::mouseClick(item->tableWidget()->viewport(), Qt::LeftButton, {},
+                          item->tableWidget()->visualItemRect(item).center());
+    return item != nullptr;
+}
+
 /** Windows without a name of their own, as boxes and menus, are called by their class. */
 static bool isCalled(const QWidget *window, const QString &name)
 {
@@ -24,20 +33,16 @@ static bool isCalled(const QWidget *window, const QString &name)
 
 Hand::Hand()
 {
-    verb("press", [](const QString &name) {
-        auto *button = front()->findChild<QAbstractButton *>(name);
+    verb("row", &choose);
+    verb("press", [](const QString &object) {
+        if (object.contains('@') && !choose(object.section('@', 1)))
+            return false;
+        auto *button = front()->findChild<QAbstractButton *>(object.section('@', 0, 0));
         if (!button || !button->isEnabled() || !button->isVisible())
             return false;
         QTest::mouseClick(button, Qt::LeftButton, {},
                           { 10, button->height() / 2 }); // where a check box hears it
         return true;
-    });
-    verb("row", [](const QString &name) {
-        const QTableWidgetItem *item = cell(name);
-        if (item)
-            QTest::mouseClick(item->tableWidget()->viewport(), Qt::LeftButton, {},
-                              item->tableWidget()->visualItemRect(item).center());
-        return item != nullptr;
     });
     verb("menu", [](const QString &object) {
         const QTableWidgetItem *item = cell(object.section('@', 0, 0));

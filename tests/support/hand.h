@@ -11,8 +11,8 @@
 /**
  * A user: does one deed after the other, also where the program runs an event loop of its own, each as soon
  * as the program is at rest and its front window lets him. What stays impossible fails the test. A deed is a
- * verb and its object: press, row, menu (of a row, NAME@COLUMN from another column), key, choose, close, see,
- * leave.
+ * verb and its object: press (NAME@ROW: with a click on the row in the same breath), row, menu (of a row,
+ * NAME@COLUMN from another column), key, choose, close, see, leave.
  */
 class Hand : public QObject {
 public:
