@@ -23,9 +23,7 @@ static void hear(QtMsgType type, const QMessageLogContext &context, const QStrin
 
 Desk::Desk()
 {
-    QFont font; // of a size that desktops have
-    font.setPointSize(10);
-    QApplication::setFont(font);
+    QApplication::setFont(QFont(QFont().family(), 10)); // a size that desktops have
     QApplication::setQuitOnLastWindowClosed(false); // which would end the event loops of the next desk
     manager.init()->exec();
     s_otherHandler = qInstallMessageHandler(hear);
@@ -148,6 +146,8 @@ static void tell(QTextStream &out, const QWidget *window, bool withLayout)
             value = label->pixmap(Qt::ReturnByValue).toImage() == QPixmap(":/images/on32b.png").toImage()
                         ? "=on"
                         : "=off";
+        else if (label && label->movie())
+            value = label->movie()->state() == QMovie::Running ? "=moving" : "=still";
         if (!label || !value.isEmpty())
             out << (part->isEnabled() ? " " : " -") << part->objectName() << (part->hasFocus() ? "*" : "")
                 << value;
