@@ -172,15 +172,6 @@ class Device(Node):
         self.abort()
         self.job = Job(self.settling(reply, Connected=False), error)
 
-    @dbus.service.method(DEVICE)
-    def CancelPairing(self):
-        if not self.busy():
-            raise failure('DoesNotExist', 'Does Not Exist')
-        agent = self.root.agent_manager.default()
-        if agent:
-            agent.call('Cancel', (), lambda: None, lambda _error: None)
-        self.job.fail(failure('AuthenticationCanceled', 'Authentication Canceled'))
-
     def connecting(self, reply):
         yield pause(self.how.get('ConnectTime', 0))
         if 'ConnectError' in self.how:
@@ -281,10 +272,6 @@ class Adapter(Node):
             raise failure('Failed', 'No discovery started')
         self.set_searchers(self.searchers - {sender})
 
-    @dbus.service.method(ADAPTER, in_signature='a{sv}')
-    def SetDiscoveryFilter(self, properties):
-        pass
-
     @dbus.service.method(ADAPTER, in_signature='o')
     def RemoveDevice(self, path):
         self.need_power()
@@ -322,11 +309,6 @@ class AgentManager(dbus.service.Object):
         if sender in self.agents:
             raise failure('AlreadyExists', 'Already Exists')
         self.agents[sender] = Agent(self.bus, sender, path)
-
-    @dbus.service.method(AGENT_MANAGER, in_signature='o', sender_keyword='sender')
-    def UnregisterAgent(self, path, sender):
-        self.need_agent(sender, path)
-        self.forget(sender)
 
     @dbus.service.method(AGENT_MANAGER, in_signature='o', sender_keyword='sender')
     def RequestDefaultAgent(self, path, sender):

@@ -9,7 +9,7 @@ build_packages=(cmake g++ libkf5bluezqt-dev libx11-dev ninja-build qtbase5-dev q
 qt='' # what the presets end in that build with another Qt than usual
 run_packages=(alsa-utils bluez procps psmisc pulseaudio-utils sound-theme-freedesktop)
 demo_packages=(dbus-bin dbus-daemon procps python3-dbus python3-gi)
-test_packages=(nodejs)
+test_packages=(bubblewrap nodejs)
 screen_packages=(imagemagick xdotool xvfb)
 real_packages=(alsa-utils at-spi2-core bluez bluez-test-tools busybox-static cpio dbus gir1.2-atspi-2.0 kmod
     libasound2-plugins libpam-systemd libspa-0.2-bluetooth pipewire pipewire-bin
@@ -96,8 +96,10 @@ serve_demo() {
     serve "$root/demo/simbluez"
 }
 
+# Without -noreset, the server would reset after each xdotool that ends before the program has connected, and
+# drop a program that connects meanwhile.
 serve_screen() {
-    serve Xvfb -displayfd 1 -screen 0 1024x768x24 -nolisten tcp
+    serve Xvfb -displayfd 1 -noreset -screen 0 1024x768x24 -nolisten tcp
     export DISPLAY=:$ready QT_QPA_PLATFORM=xcb
 }
 

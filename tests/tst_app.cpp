@@ -2,10 +2,10 @@
 #include "app/commandrunner.h"
 #include "app/debuglog.h"
 #include "app/language.h"
-#include "app/look.h"
 #include "app/paths.h"
 #include "app/text.h"
 #include "tests/support/testbus.h"
+#include "widgets/stylesheet.h"
 
 #include <QtTest>
 
@@ -37,11 +37,27 @@ private Q_SLOTS:
 
     void choosesLanguage()
     {
-        for (const char *chosen : { "de-AT=de", "nl-NL,fr-CA,en=fr", "pt-PT=pt_BR", "zh-CN=zh_CN",
-                                    "zh-Hans-SG=zh_CN", "zh-TW,zh-Hant-HK,zh=", "en-GB,de=", "C,de=", "=" }) {
-            const QString languages = QString(chosen).section('=', 0, 0);
-            QCOMPARE(languages + '=' + catalogueFor(languages.split(',')), chosen);
-        }
+        // What Qt makes of LANG and LANGUAGE. It appends "zh-CN" to "zh", and "C" to a language that it does
+        // not know.
+        const std::pair<const char *, const char *> languages[] = {
+            { "de-AT,de-Latn-AT,de,de-DE,de-Latn-DE", "de" },
+            { "nb,nb-NO,nb-Latn-NO,fr-CA,fr-Latn-CA,en", "fr" },
+            { "pt-PT,pt-Latn-PT,pt", "pt_BR" },
+            { "en-GB,en-Latn-GB,en,de,de-DE,de-Latn-DE", "" },
+            { "zh-CN,zh,zh-Hans-CN", "zh_CN" },
+            { "zh-SG,zh-Hans-SG", "zh_CN" },
+            { "zh,zh-CN,zh-Hans-CN", "zh_CN" },
+            { "zh-TW,zh-Hant-TW,zh,zh-CN,zh-Hans-CN", "" },
+            { "zh-HK,zh-Hant-HK,zh,zh-Hans-CN,zh-CN,de,de-DE", "de" },
+            { "lij,C,it,it-IT,it-Latn-IT", "it" },
+            { "csb,pl,pl-Latn-PL,pl-PL,C", "pl" },
+            { "vec,C", "" },
+            { "ar-EG,ar,ar-Arab-EG", "" },
+            { "C", "" },
+        };
+        for (const auto &[tags, catalogue] : languages)
+            QCOMPARE(QString("%1: %2").arg(tags, catalogueFor(QString(tags).split(','))),
+                     QString("%1: %2").arg(tags, catalogue));
     }
 
     void runsCommands()
@@ -69,6 +85,9 @@ private Q_SLOTS:
         QCOMPARE(windowStyleSheet(), "/* ä */\n" + rule);
         if (chown(paths::styleSheet, 65534, 65534) == 0) // only root can
             QCOMPARE(windowStyleSheet(), rule);
+        put("/tmp/linked.css", "/* elsewhere */");
+        QVERIFY(QFile::remove(paths::styleSheet) && symlink("/tmp/linked.css", paths::styleSheet) == 0);
+        QCOMPARE(windowStyleSheet(), rule);
         QVERIFY(QFile::remove(paths::styleSheet) && mkfifo(paths::styleSheet, 0600) == 0);
         QCOMPARE(windowStyleSheet(), rule);
 

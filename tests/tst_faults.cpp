@@ -1,50 +1,51 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whatever goes while whatever is open: nothing crashes, and afterwards the window does its work again.
-#include "tests/support/desk.h"
+// Faults in every state of the program: nothing crashes, and afterwards the window works again.
+#include "tests/support/fixture.h"
 
 #include <QtDBus>
 #include <QtTest>
 
 #include <csignal>
 
-#define CONNECT "press add, row Target, press pairconnect"
+#define CONNECT "click add, select Target, click pairconnect"
 
-/** What can be open, the way there, and how the device that is connected on it is and behaves. */
-static const QStringList places[] = {
+/** The state, the steps to it, and properties and behaviour of the device that is connected on the way. */
+static const QStringList states[] = {
     { "window", "", "" },
-    { "options", "press options, see options", "" },
-    { "menu", "menu Cans, see QMenu", "" },
-    { "audiotest", "menu Cans, key Down, key Return, see audiotest", "" },
-    { "audiotest box", "menu Cans, key Down, key Return, see audiotest, choose 1, see QMessageBox", "" },
-    { "box", "row Target, press connect, see QMessageBox", "Paired / ConnectError=o.x ConnectErrorText=y" },
-    { "btscan", "press add, see btscan", "" },
+    { "options", "click options, wait for options", "" },
+    { "menu", "menu Cans, wait for QMenu", "" },
+    { "audiotest", "menu Cans, press Down, press Return, wait for audiotest", "" },
+    { "audiotest box", "menu Cans, press Down, press Return, wait for audiotest, choose 1, wait for box",
+      "" },
+    { "box", "select Target, click connect, wait for box", "Paired / ConnectError=o.x ConnectErrorText=y" },
+    { "btscan", "click add, wait for btscan", "" },
     { "btscan connecting", CONNECT, "/ ConnectTime=60000" },
-    { "btscan pin", CONNECT ", see Pin", "/ Pin=123 PairTime=60000" },
-    { "btscan change box", CONNECT ", see QMessageBox", "" },
-    { "btscan answer box", CONNECT ", see QMessageBox", "/ ReplyDelay=0" },
-    { "btscan failure box", CONNECT ", see QMessageBox", "/ ConnectError=org.bluez.Error.Failed" },
+    { "btscan pin", CONNECT ", wait for Pin", "/ Pin=123 PairTime=60000" },
+    { "btscan change box", CONNECT ", wait for box", "" },
+    { "btscan answer box", CONNECT ", wait for box", "/ ReplyDelay=0" },
+    { "btscan failure box", CONNECT ", wait for box", "/ ConnectError=org.bluez.Error.Failed" },
 };
-/** What happens there, until it is noticed and there is an adapter again. */
-static const QStringList blows[] = {
+/** The fault, until the program has noticed it and there is an adapter again. */
+static const QStringList faults[] = {
     { "daemon", "kill, operational off, start, operational on" },
-    { "adapter", "lose hci0, devices 0, adapter hci0" },
-    { "devices", "lose Cans, lose Target, devices 0" },
+    { "adapter", "remove hci0, devices 0, adapter hci0" },
+    { "devices", "remove Cans, remove Target, devices 0" },
     { "properties", "set Target Name=1 Class= Connected= Paired= Adapter= RSSI=, set Target Address=x" },
 };
 
-/** A desk where a place can be gone to. */
-struct Scene : Desk {
-    explicit Scene(const QStringList &place)
-        : way("device Cans Paired Connected, device Target " + place[2] + ", open, " + place[1]
-              + ", forget, ")
+/** A fixture with what the steps to a state need. */
+struct StateFixture : Fixture {
+    explicit StateFixture(const QStringList &state)
+        : steps("device Cans Paired Connected, device Target " + state[2] + ", open, " + state[1]
+                + ", forget, ")
     {
         put(path("tools/pactl-list-cards.out"),
             "Card #1 bluez_card.00_1A_7D_30_00_01\nProfiles:\na: A\nb: B\n\tActive Profile: a");
         verb("forget", [=](const QString &) { agent->device.clear(); }); // as when another device comes in
-        verb("cut", [=](const QString &) { ::kill(busPid, SIGKILL); });
-        verb("isCut", [](const QString &) { return !QDBusConnection::systemBus().isConnected(); });
+        verb("stopBus", [=](const QString &) { ::kill(busPid, SIGKILL); });
+        verb("busStopped", [](const QString &) { return !QDBusConnection::systemBus().isConnected(); });
     }
-    const QString way;
+    const QString steps;
     const int busPid = QDBusConnection::systemBus().interface()->servicePid("org.freedesktop.DBus");
 };
 
@@ -54,37 +55,38 @@ class TestFaults : public QObject {
 private Q_SLOTS:
     void survives_data()
     {
-        QTest::addColumn<QStringList>("place");
-        QTest::addColumn<QString>("blow");
-        for (const QStringList &place : places) {
-            for (const QStringList &blow : blows)
-                QTest::addRow("%s: %s", qPrintable(place[0]), qPrintable(blow[0])) << place << blow[1];
+        QTest::addColumn<QStringList>("state");
+        QTest::addColumn<QString>("fault");
+        for (const QStringList &state : states) {
+            for (const QStringList &fault : faults)
+                QTest::addRow("%s: %s", qPrintable(state[0]), qPrintable(fault[0])) << state << fault[1];
         }
     }
 
     void survives()
     {
-        QFETCH(QStringList, place);
-        QFETCH(QString, blow);
-        Scene scene(place);
-        scene.does(scene.way + blow + R"(, leave, device Next Class=0x2540
-            press add, row Next, press pairconnect, see QMessageBox, leave, press disconnect@Next)");
+        QFETCH(QStringList, state);
+        QFETCH(QString, fault);
+        StateFixture fixture(state);
+        fixture.perform(fixture.steps + fault + R"(, leave, device Next Class=0x2540
+            click add, select Next, click pairconnect, wait for box, leave, click disconnect@Next)");
     }
 
-    /** One place to a process, which gets no bus again. */
+    /** Each state in a process of its own, which gets no bus again. */
     void losesTheBus()
     {
-        const QString its = qEnvironmentVariable("PAIRDESK_PLACE");
-        for (const QStringList &place : places) {
-            if (its == place[0]) {
-                Scene scene(place);
-                scene.does(scene.way + R"(cut, isCut, leave
-                    press add, see btscan, leave, press options, see options, leave, press ok)");
-                QVERIFY(scene.table->isEnabled() && scene.window->m_bOk && !scene.window->isVisible());
-            } else if (its.isEmpty()) {
-                qputenv("PAIRDESK_PLACE", place[0].toUtf8());
+        const QString given = qEnvironmentVariable("PAIRDESK_STATE");
+        for (const QStringList &state : states) {
+            if (given == state[0]) {
+                StateFixture fixture(state);
+                fixture.perform(fixture.steps + R"(stopBus, busStopped, leave
+                    click add, wait for btscan, leave, click options, wait for options, leave, click ok)");
+                QVERIFY(fixture.table->isEnabled() && fixture.window->m_bOk && !fixture.window->isVisible());
+            } else if (given.isEmpty()) {
+                qputenv("PAIRDESK_STATE", state[0].toUtf8());
                 const QStringList again = { "--here", qApp->applicationFilePath(), "losesTheBus" };
-                QVERIFY2(QProcess::execute(QFINDTESTDATA("support/alone"), again) == 0, qPrintable(place[0]));
+                QVERIFY2(QProcess::execute(QFINDTESTDATA("support/isolate"), again) == 0,
+                         qPrintable(state[0]));
             }
         }
     }

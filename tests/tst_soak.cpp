@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What is done again and again costs no more memory, and no more connections than the two that a scan adds.
-#include "tests/support/desk.h"
+// Repetition costs no memory, and no connections besides the two that each scan adds.
+#include "tests/support/fixture.h"
 
 #include <BluezQt/Adapter>
 #include <QtTest>
@@ -21,22 +21,23 @@ static int connections(const QObject *object)
     return count;
 }
 
-static void lasts(int times, const QString &before, const QString &round)
+static void repeats(int times, const QString &before, const QString &round)
 {
-    Desk desk;
+    QPixmapCache::setCacheLimit(1024); // as the program does
+    Fixture fixture;
     QList<int> counts, sizes;
-    desk.verb("rests", [&](const QString &) {
-        return desk.device("Cans")->findChildren<BluezQt::PendingCall *>().isEmpty();
+    fixture.verb("isDone", [&](const QString &) {
+        return fixture.device("Cans")->findChildren<BluezQt::PendingCall *>().isEmpty();
     });
-    desk.verb("measure", [&](const QString &) { // what outlives the dialogs
-        counts += connections(&desk.manager) + connections(desk.agent)
-                  + connections(desk.manager.adapters().first().data())
-                  + connections(desk.device("Cans").data()) + QApplication::topLevelWidgets().size();
+    fixture.verb("measure", [&](const QString &) { // what outlives the dialogs
+        counts += connections(&fixture.manager) + connections(fixture.agent)
+                  + connections(fixture.manager.adapters().first().data())
+                  + connections(fixture.device("Cans").data()) + QApplication::topLevelWidgets().size();
         sizes += contentOf("/proc/self/statm").split(' ').value(1).toInt() * 4;
     });
-    desk.does("device Cans Paired, open, " + before + round + "measure, " + round.repeated(times / 10)
-              + "measure, " + round.repeated(times - times / 10) + "measure, leave");
-    QCOMPARE(counts[2], counts[0] + (round.contains("press add") ? 2 * times : 0));
+    fixture.perform("device Cans Paired, open, " + before + round + "measure, " + round.repeated(times / 10)
+                    + "measure, " + round.repeated(times - times / 10) + "measure, leave");
+    QCOMPARE(counts[2], counts[0] + (round.contains("click add") ? 2 * times : 0));
     qInfo("%d KiB after %d times, %d KiB after %d", sizes[1], times / 10, sizes[2], times);
     QVERIFY(sizes[2] < 1.05 * sizes[1]);
 }
@@ -45,9 +46,12 @@ class TestSoak : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void opensDialogs() { lasts(200, "", "press add, close btscan, press options, close options, "); }
-    void seesOthers() { lasts(100, "press add, ", "strangers 200, devices 201, gone 200, devices 1, "); }
-    void connects() { lasts(500, "", "row Cans, press connect, rests, row Cans, press disconnect, rests, "); }
+    void opensDialogs() { repeats(200, "", "click add, close btscan, click options, close options, "); }
+    void seesOthers() { repeats(100, "click add, ", "strangers 200, devices 201, gone 200, devices 1, "); }
+    void connects()
+    {
+        repeats(500, "", "select Cans, click connect, isDone, select Cans, click disconnect, isDone, ");
+    }
 };
 
 QTEST_MAIN(TestSoak)

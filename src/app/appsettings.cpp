@@ -3,33 +3,30 @@
 
 #include <QSettings>
 
-static const char organization[] = "Zemra";
-static const char application[] = "pairdesk";
+static const QLatin1String organization("Zemra");
+static const QLatin1String application("pairdesk");
 
-AppSettings::AppSettings()
-    : enabled(false)
-    , showTrayIcon(false)
-    , debug(false)
-    , audioProfile(QStringLiteral("A2DP"))
-{
-}
+static const QLatin1String enabledKey("enabled");
+static const QLatin1String showTrayIconKey("showtrayicon");
+static const QLatin1String debugKey("debug");
+static const QLatin1String audioProfileKey("audioprofile");
 
 int AppSettings::load()
 {
     const QSettings store(organization, application);
-    enabled = store.value("enabled").toBool();
-    showTrayIcon = store.value("showtrayicon").toBool();
-    debug = store.value("debug").toBool();
-    audioProfile = store.value("audioprofile").toString();
+    enabled = store.value(enabledKey).toBool();
+    showTrayIcon = store.value(showTrayIconKey).toBool();
+    debug = store.value(debugKey).toBool();
+    audioProfile = store.value(audioProfileKey).toString();
     return 0;
 }
 
 int AppSettings::save()
 {
     QSettings store(organization, application);
-    store.setValue("enabled", enabled);
-    store.setValue("showtrayicon", showTrayIcon);
-    store.setValue("debug", debug);
-    store.setValue("audioprofile", audioProfile);
+    store.setValue(enabledKey, enabled);
+    store.setValue(showTrayIconKey, showTrayIcon);
+    store.setValue(debugKey, debug);
+    store.setValue(audioProfileKey, audioProfile);
     return 0;
 }

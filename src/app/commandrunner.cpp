@@ -15,7 +15,7 @@ CommandResult runCommand(const QString &program, const QStringList &arguments, i
         environment.remove(QStringLiteral("LANGUAGE"));
         process.setProcessEnvironment(environment);
     }
-    process.start(program, arguments, QIODevice::ReadWrite);
+    process.start(program, arguments);
     process.waitForFinished(timeoutMs);
     return { process.state() == QProcess::NotRunning, process.exitStatus() == QProcess::CrashExit,
              process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError() };
@@ -26,7 +26,7 @@ CommandResult runShell(const QString &line, int timeoutMs, Messages messages)
     return runCommand(QStringLiteral("sh"), { QStringLiteral("-c"), line }, timeoutMs, messages);
 }
 
-void runShellBlindly(const char *line)
+void runShellIgnoringResult(const char *line)
 {
     const int status = std::system(line);
     static_cast<void>(status);

@@ -5,28 +5,27 @@
 #include <QString>
 #include <QStringList>
 
-/** What is known of a command once the wait for it is over. */
+/** The result of a command, or its state when the wait for it timed out. */
 struct CommandResult {
-    bool finished; ///< false when it was given up
+    bool finished; ///< false when the wait timed out
     bool crashed;
-    int exitCode; ///< 0 for a command that was given up, 255 for one that could not be started
+    int exitCode; ///< 0 after a time-out, 255 when it could not be started
     QByteArray standardOutput;
     QByteArray standardError;
 };
 
-/** In what language a command speaks: the user's, or untranslated for output that is to be parsed. */
+/** The language of a command's output: the user's, or none where the output is parsed. */
 enum class Messages { AsUser, Untranslated };
 
 /**
- * Runs a program and waits for it, blocking, for at most the given time (ms). A program that has not
- * finished by then is killed; what it has written so far is kept.
+ * Runs a program and blocks until it ends, for at most the given time (ms). A program that has not finished
+ * by then is killed; what it has written so far is returned.
  */
 CommandResult runCommand(const QString &program, const QStringList &arguments, int timeoutMs,
                          Messages messages = Messages::AsUser);
 
-/** Runs a shell line with runCommand(). */
+/** Runs a shell command line with runCommand(). */
 CommandResult runShell(const QString &line, int timeoutMs, Messages messages = Messages::AsUser);
 
-/** Runs a shell line and waits until it ends, however long that takes. Output and result are not looked at.
- */
-void runShellBlindly(const char *line);
+/** Runs a shell command line and blocks until it ends, without a time-out; its result is ignored. */
+void runShellIgnoringResult(const char *line);

@@ -24,10 +24,12 @@ void debugLogOpen(const char *path, int level)
     if (s_openedOnce)
         return;
     s_openedOnce = 1;
-    const int descriptor = openRegularFile(path, O_RDWR | O_APPEND | O_CREAT | O_NOFOLLOW);
+    const int descriptor = openRegularFile(path, O_RDWR | O_APPEND | O_CREAT);
     if (descriptor >= 0)
         s_file = fdopen(descriptor, "a+");
     if (!s_file) {
+        if (descriptor >= 0)
+            close(descriptor);
         debugLogClose();
         return;
     }
@@ -60,7 +62,7 @@ void debugLog(int level, const char *format, ...)
                                      getpid());
     if (prefix < 0)
         std::abort();
-    const size_t room = sizeof line - static_cast<size_t>(prefix) - 1; // the line feed has to fit as well
+    const size_t room = sizeof line - static_cast<size_t>(prefix) - 1; // for the line feed
     va_list arguments;
     va_start(arguments, format);
     const int length = std::vsnprintf(line + prefix, room, format, arguments);

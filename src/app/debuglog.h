@@ -17,7 +17,7 @@ void debugLogOpen(const char *path, int level);
 void debugLogClose();
 
 /**
- * Writes one line, printf-style with UTF-8 strings, when the log is open at just this level. A line longer
- * than 4095 bytes ends the process: what comes from outside is passed by logPrintable().
+ * Writes one line, printf-style with UTF-8 strings, when the log is open at exactly this level. A line longer
+ * than 4095 bytes aborts the process: texts from outside are passed through logPrintable().
  */
 void debugLog(int level, const char *format, ...) __attribute__((format(printf, 2, 3)));

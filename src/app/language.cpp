@@ -9,7 +9,7 @@
 
 static const QLatin1String s_folder(":/translations");
 
-/** Whether there is a locale at all: without one, as with "C", LANGUAGE is no wish. */
+/** Whether a locale other than "C" is set: without one LANGUAGE is ignored, as gettext does. */
 static bool localeIsSet()
 {
     for (const char *variable : { "LC_ALL", "LC_MESSAGES", "LANG" }) {
@@ -20,28 +20,39 @@ static bool localeIsSet()
     return false;
 }
 
-/** The name of the catalogue for one language, whether there is such a file or not. */
+/** The name that the catalogue for this language has, if there is one. */
 static QString catalogueName(const QString &tag)
 {
     QString language = tag.section(QLatin1Char('-'), 0, 0);
-    // Readers in Portugal and Africa follow Brazilian words more easily than English ones.
+    // Brazilian Portuguese is closer to European Portuguese than English is.
     if (language == QLatin1String("pt"))
         return QStringLiteral("pt_BR");
-    // Traditional characters are not for everybody's eyes, nor are simplified ones. What "zh" alone means is
-    // unknown: it may be the rest of either.
-    if (language == QLatin1String("zh")) {
-        const bool simplified = tag != language && QLocale(tag).script() == QLocale::SimplifiedHanScript;
-        return simplified ? QStringLiteral("zh_CN") : QString();
-    }
+    if (language == QLatin1String("zh"))
+        return QStringLiteral("zh_CN");
     return language;
+}
+
+/** The script of a Chinese tag; for a bare "zh", and for other languages, any. */
+static QLocale::Script chineseScript(const QString &tag)
+{
+    return tag.startsWith(QLatin1String("zh-")) ? QLocale(tag).script() : QLocale::AnyScript;
 }
 
 QString catalogueFor(const QStringList &languages)
 {
+    // Qt also lists "C" behind a language that it does not know; only a leading one means English.
+    if (languages.value(0) == QLatin1String("C"))
+        return {};
+    bool readsTraditional = false;
     for (const QString &tag : languages) {
         QString name = catalogueName(tag);
-        if (name == QLatin1String("en") || name == QLatin1String("C"))
+        if (name == QLatin1String("en"))
             return {};
+        // Qt appends "zh" to the tags of either script, and "zh-CN" to "zh".
+        const QLocale::Script script = chineseScript(tag);
+        readsTraditional |= script == QLocale::TraditionalHanScript;
+        if (name == QLatin1String("zh_CN") && (readsTraditional || script != QLocale::SimplifiedHanScript))
+            continue;
         if (QFile::exists(s_folder + QStringLiteral("/pairdesk_%1.qm").arg(name)))
             return name;
     }
@@ -55,7 +66,7 @@ static void install(const QString &file, const QString &folder)
         QCoreApplication::installTranslator(translator);
 }
 
-void speakUsersLanguage()
+void installTranslators()
 {
     const QString name = localeIsSet() ? catalogueFor(QLocale::system().uiLanguages()) : QString();
     if (name.isEmpty())

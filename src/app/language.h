@@ -3,11 +3,14 @@
 
 #include <QStringList>
 
-/** The catalogue for a user who reads these languages, best first; empty where the texts stay as they are. */
+/**
+ * Returns the name of the catalogue for the user's languages, the preferred one first, as
+ * QLocale::uiLanguages() lists them; empty when the texts stay English.
+ */
 QString catalogueFor(const QStringList &languages);
 
 /**
- * Makes the program and its library speak the user's language, if there is a catalogue for it; in English
- * nothing is loaded. To be called once, before there is a window.
+ * Installs the translators of the program and of Qt for the user's language, if there is a catalogue for it;
+ * in English nothing is loaded. To be called once, before the first window is made.
  */
-void speakUsersLanguage();
+void installTranslators();

@@ -11,28 +11,22 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-/** A link is refused, since anybody can lay one at that place. */
-static bool openPidFile(QFile *file, int flags, QIODevice::OpenMode mode)
-{
-    const int descriptor = openRegularFile(paths::pidFile, flags | O_NOFOLLOW);
-    return descriptor >= 0 && file->open(descriptor, mode, QFileDevice::AutoCloseHandle);
-}
-
 int pidFromText(const QByteArray &text) { return latin1Text(text).toInt(); }
 
 bool anotherInstanceRuns()
 {
     QFile file;
-    if (!openPidFile(&file, O_RDONLY, QIODevice::ReadOnly))
+    if (!openRegularFile(&file, paths::pidFile, O_RDONLY, QIODevice::ReadOnly))
         return false;
-    // 0 makes kill() test our own process group: what is no number is refused on purpose.
+    // Text that is not a number gives 0, for which kill() tests our own process group: intentionally, such a
+    // file refuses every start.
     return kill(pidFromText(file.readAll()), 0) == 0;
 }
 
 void writePidFile()
 {
     QFile file;
-    // Emptied only once it is known for a regular file.
-    if (openPidFile(&file, O_RDWR | O_CREAT, QIODevice::ReadWrite) && file.resize(0))
+    // Truncated only once it is known to be a regular file.
+    if (openRegularFile(&file, paths::pidFile, O_RDWR | O_CREAT, QIODevice::ReadWrite) && file.resize(0))
         file.write(QString::number(getpid()).toUtf8());
 }

@@ -3,7 +3,7 @@
 
 #include <QByteArray>
 
-/** The process ID in the text of a PID file, 0 for whatever is no number. */
+/** Returns the process ID in the text of a PID file; 0 when it is not a number. */
 int pidFromText(const QByteArray &text);
 
 /**
@@ -12,5 +12,5 @@ int pidFromText(const QByteArray &text);
  */
 bool anotherInstanceRuns();
 
-/** Writes this process' ID into the PID file; does nothing when the file cannot be opened. */
+/** Writes the own process ID into the PID file; does nothing when the file cannot be opened. */
 void writePidFile();

@@ -13,7 +13,7 @@ QByteArray clippedUtf8(const QString &text)
     QByteArray bytes = text.toUtf8();
     int end = 1000;
     if (bytes.size() > end) {
-        while ((bytes[end] & 0xc0) == 0x80) // in the middle of a character
+        while ((bytes[end] & 0xc0) == 0x80) // a continuation byte
             --end;
         bytes.truncate(end);
     }

@@ -7,7 +7,7 @@
 const char noAdaptersMessage[] = "!!! No bluetooth adapters were found. Waiting for bluetooth adapters. "
                                  "Ctrl + C to cancel...";
 
-BluezQt::AdapterPtr usableOrFirstAdapter(const BluezQt::Manager *manager)
+BluezQt::AdapterPtr ensureUsableAdapter(const BluezQt::Manager *manager)
 {
     BluezQt::AdapterPtr adapter = manager->usableAdapter();
     if (adapter)

@@ -4,11 +4,11 @@
 #include <BluezQt/Manager>
 #include <BluezQt/Types>
 
-/** What the debug stream says when there is no adapter to work with. */
+/** The text for the debug stream when there is no adapter. */
 extern const char noAdaptersMessage[];
 
 /**
- * The adapter to work with: the usable one, else the first one after powering it on, which blocks until
- * the daemon has answered (the answer is not examined). Null only when the manager has no adapter at all.
+ * Returns the usable adapter, or else powers on the first adapter and returns that, which blocks until the
+ * daemon has answered (the answer is not examined). Null only when the manager has no adapter at all.
  */
-BluezQt::AdapterPtr usableOrFirstAdapter(const BluezQt::Manager *manager);
+BluezQt::AdapterPtr ensureUsableAdapter(const BluezQt::Manager *manager);

@@ -11,10 +11,6 @@
 
 btagent::btagent(BluezQt::Manager *manager, AppSettings *settings, QObject *parent)
     : BluezQt::Agent(parent)
-    , pinCodeRequested(false)
-    , passkeyRequested(false)
-    , cancelled(false)
-    , released(false)
     , manager(manager)
     , settings(settings)
 {
@@ -26,7 +22,7 @@ void btagent::scanDevices()
     debugLog(3, "btagent::scanDevices in");
     if (!manager)
         return;
-    const BluezQt::AdapterPtr adapter = usableOrFirstAdapter(manager);
+    const BluezQt::AdapterPtr adapter = ensureUsableAdapter(manager);
     if (!adapter) {
         qDebug() << noAdaptersMessage;
         connect(manager, &BluezQt::Manager::adapterAdded, this, &btagent::adapterAdded);
@@ -34,7 +30,7 @@ void btagent::scanDevices()
     }
     qDebug() << "*** Will scan devices until stopped...";
     qDebug() << "";
-    // Not unique on purpose: after the n-th scan every device is reported n times.
+    // Intentionally not unique: after the n-th scan every device is reported n times.
     connect(adapter.data(), &BluezQt::Adapter::deviceAdded, this, &btagent::onDeviceFound);
     connect(adapter.data(), &BluezQt::Adapter::deviceChanged, this, &btagent::onDevicePropertyChanged);
     adapter->startDiscovery();
@@ -47,7 +43,7 @@ void btagent::stopScan()
     const QList<BluezQt::AdapterPtr> adapters = manager->adapters();
     for (const BluezQt::AdapterPtr &adapter : adapters)
         adapter->stopDiscovery();
-    debugLog(3, "btagent::stopScan in"); // "in" twice is meant
+    debugLog(3, "btagent::stopScan in"); // the second "in" is intentional
 }
 
 void btagent::adapterAdded(BluezQt::AdapterPtr adapter)
@@ -79,7 +75,7 @@ void btagent::onDeviceFound(BluezQt::DevicePtr device)
     qDebug() << "*** Remote device found:" << device->name() << "(" << device->address() << ")";
     qDebug() << "";
     this->device = device;
-    emit deviceAdded();
+    Q_EMIT deviceAdded();
     debugLog(3, "btagent::onDeviceFound out");
 }
 
@@ -92,7 +88,7 @@ void btagent::onDevicePropertyChanged(BluezQt::DevicePtr device)
                  logPrintable(BluezQt::Device::typeToString(device->type())));
     }
     this->device = device;
-    emit agentDeviceChanged();
+    Q_EMIT agentDeviceChanged();
     debugLog(3, "btagent::onDevicePropertyChanged out");
 }
 

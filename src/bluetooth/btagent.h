@@ -21,7 +21,7 @@ public:
     /** The manager and the settings record stay the caller's and outlive the agent. */
     btagent(BluezQt::Manager *manager, AppSettings *settings, QObject *parent);
 
-    /** Starts discovery; without any adapter, as soon as one appears. Each call adds its connections anew. */
+    /** Starts discovery, or without an adapter as soon as one appears. Each call connects again. */
     void scanDevices();
     /** Stops discovery on every adapter. */
     void stopScan();
@@ -46,16 +46,16 @@ public:
     void cancel() override;
     void release() override;
 
-    // What BlueZ last asked for, kept for a look from outside and never reset.
-    bool pinCodeRequested;
+    // What BlueZ last asked for; never reset, and not read by the program.
+    bool pinCodeRequested = false;
     QString pinCode;
-    bool passkeyRequested;
+    bool passkeyRequested = false;
     QString passkey;
     QString enteredPasskey;
     QString confirmationPasskey;
     QString serviceUuid;
-    bool cancelled;
-    bool released;
+    bool cancelled = false;
+    bool released = false;
 
     BluezQt::Manager *manager;
     /** The device of the latest device event, agent request or operation; may be null. */

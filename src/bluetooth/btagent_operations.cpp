@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Operations on one device, given by its address, and the slots on which their outcome comes back.
+// Operations on one device, given by its address, and the slots that report their outcome.
 #include "app/debuglog.h"
 #include "app/text.h"
 #include "bluetooth/adapters.h"
@@ -15,8 +15,8 @@ BluezQt::DevicePtr btagent::findDevice(const QString &address) const
 }
 
 /**
- * Makes the device the current one and cuts every connection from its signals, whoever made it: afterwards
- * the caller's own connection is the only one, however often the device was operated before.
+ * Makes the device the current one and disconnects all receivers from its signals, so that the caller's own
+ * connection is the only one afterwards, however often this is repeated.
  */
 void btagent::adoptAndCutConnections(const BluezQt::DevicePtr &operated)
 {
@@ -67,7 +67,7 @@ void btagent::removeDevice(const QString &address)
     debugLog(3, "btagent::removeDevice address: %s", logPrintable(address));
     if (const BluezQt::DevicePtr dev = findDevice(address)) {
         debugLog(3, "btagent::removeDevice dev: %s", logPrintable(dev->name()));
-        const BluezQt::AdapterPtr adapter = usableOrFirstAdapter(manager);
+        const BluezQt::AdapterPtr adapter = ensureUsableAdapter(manager);
         if (!adapter) {
             qDebug() << noAdaptersMessage;
             connect(manager, &BluezQt::Manager::adapterAdded, this, &btagent::adapterAdded);
@@ -83,7 +83,7 @@ void btagent::onPairedChanged(bool paired)
 {
     debugLog(3, "btagent::onPairedChanged paired: %d", paired);
     qDebug() << "onPairedChanged address:" << device->address() << ",paired:" << (paired ? "true" : "false");
-    emit pairedChanged(paired);
+    Q_EMIT pairedChanged(paired);
     debugLog(3, "btagent::onPairedChanged out");
 }
 
@@ -92,7 +92,7 @@ void btagent::onConnectedChanged(bool connected)
     debugLog(3, "btagent::onConnectedChanged connected: %d", connected);
     qDebug() << "onConnectedChanged address:" << device->address()
              << ",connected:" << (connected ? "true" : "false");
-    emit connectedChanged(connected);
+    Q_EMIT connectedChanged(connected);
     debugLog(3, "btagent::onConnectedChanged out");
 }
 
@@ -100,10 +100,10 @@ void btagent::onCallFinished(BluezQt::PendingCall *pc)
 {
     debugLog(3, "btagent::onCallFinished in");
     if (pc) {
-        pc->setParent(nullptr); // the library deletes it later, even if its device goes meanwhile
+        pc->setParent(nullptr); // it deletes itself later, even if its device is deleted first
         const QString action = pc->userData().toString();
         const QString error = pc->errorText();
-        emit callFinished(action, error);
+        Q_EMIT callFinished(action, error);
     }
     debugLog(3, "btagent::onCallFinished out");
 }

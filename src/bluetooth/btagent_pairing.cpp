@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What BlueZ asks of the pairing agent: everything is accepted before the callback returns.
+// The callbacks of the pairing agent: they accept everything before they return.
 #include "app/debuglog.h"
 #include "app/text.h"
 #include "bluetooth/btagent.h"
@@ -37,7 +37,7 @@ void btagent::displayPinCode(BluezQt::DevicePtr device, const QString &pinCode)
     qDebug() << "displayPinCode address" << device->address() << ", pin:" << pinCode;
     this->device = device;
     this->pinCode = pinCode;
-    emit displayPinCodeSlot(pinCode);
+    Q_EMIT displayPinCodeSlot(pinCode);
     debugLog(3, "btagent::displayPinCode out");
 }
 
@@ -66,7 +66,7 @@ void btagent::displayPasskey(BluezQt::DevicePtr device, const QString &passkey, 
     this->passkey = passkey;
     enteredPasskey = entered;
     pinCode = passkey;
-    emit displayPinCodeSlot(passkey);
+    Q_EMIT displayPinCodeSlot(passkey);
 }
 
 void btagent::requestConfirmation(BluezQt::DevicePtr device, const QString &passkey,
@@ -102,7 +102,7 @@ void btagent::authorizeService(BluezQt::DevicePtr device, const QString &uuid,
 {
     debugLog(3, "btagent::authorizeService in");
     if (device) {
-        // The other request's name is meant.
+        // The name of the other request is intentional.
         debugLog(3, "btagent::requestAuthorization dev: %s, address: %s, uuid: %s",
                  logPrintable(device->name()), logPrintable(device->address()), logPrintable(uuid));
     }
@@ -118,7 +118,7 @@ void btagent::cancel()
     debugLog(3, "btagent::cancel in");
     qDebug() << "cancel";
     cancelled = true;
-    emit cancelSignal();
+    Q_EMIT cancelSignal();
     debugLog(3, "btagent::cancel out");
 }
 

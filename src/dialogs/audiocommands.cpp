@@ -1,16 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/audiocommands.h"
 
+#include "app/paths.h"
+
+#include <QProcess>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 namespace audiocommands {
 
-/** Whether a shell takes these words for nothing but words, and a tool for no option. */
+/** Whether a shell leaves these words as they are, and none of them is an option. */
 static bool isPlain(const QString &key)
 {
     static const QRegularExpression plain(
-        QStringLiteral("\\A *(?:[A-Za-z0-9._:][A-Za-z0-9._:-]*(?: +|\\z))*\\z"));
-    return plain.match(key).hasMatch();
+        QStringLiteral("\\A *(?:[\\p{L}\\p{M}\\p{N}._:][\\p{L}\\p{M}\\p{N}._:-]*(?: +|\\z))*\\z"));
+    // A letter that the locale cannot encode reaches the shell as "?", a wildcard.
+    return plain.match(key).hasMatch() && QString::fromLocal8Bit(key.toLocal8Bit()) == key;
 }
 
 static QString shellWord(const QString &key)
@@ -22,7 +28,7 @@ static QString shellWord(const QString &key)
     return QLatin1Char('\'') + quoted + QLatin1Char('\'');
 }
 
-/** As shellWord(), and behind a grep that would take a leading "-" for an option. */
+/** Like shellWord(), for grep, to which a leading "-" must not be an option. */
 static QString grepWord(const QString &key)
 {
     return shellWord(key.startsWith(QLatin1Char('-')) ? QLatin1String("[-]") + key.mid(1) : key);
@@ -60,27 +66,28 @@ QString listSources(const QString &sourceKey)
 
 QString record(const QString &source)
 {
-    return QStringLiteral("parecord --channels=1 --device=%1 /tmp/sample.wav").arg(shellWord(source));
+    return QStringLiteral("parecord --channels=1 --device=%1 %2")
+        .arg(shellWord(source), QLatin1String(paths::audioSample));
 }
 
-QStringList setCardProfile(const QString &cardKey, const QString &profile)
+/** Prepends "--" if an argument would be taken for an option; pactl accepts it before its command only. */
+static QStringList withoutOptions(QStringList words)
 {
-    const QString command = QStringLiteral("set-card-profile");
-    if (!isPlain(cardKey) || !isPlain(profile))
-        return { QStringLiteral("--"), command, cardKey,
-                 profile }; // pactl ends its options before the command
-    QStringList words = { command };
-    words += cardKey.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    words += profile.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    return words;
-}
-
-QStringList setProfileOfCard(const QString &card, const QString &profile)
-{
-    QStringList words = { QStringLiteral("set-card-profile"), card, profile };
-    if (card.startsWith(QLatin1Char('-')) || profile.startsWith(QLatin1Char('-')))
+    const auto isOption = [](const QString &word) { return word.startsWith(QLatin1Char('-')); };
+    if (std::any_of(words.cbegin(), words.cend(), isOption))
         words.prepend(QStringLiteral("--"));
     return words;
+}
+
+QStringList setCardProfileByKey(const QString &cardKey, const QString &profile)
+{
+    return withoutOptions(
+        QProcess::splitCommand(QStringLiteral("set-card-profile %1 %2").arg(cardKey, profile)));
+}
+
+QStringList setCardProfileByName(const QString &card, const QString &profile)
+{
+    return withoutOptions({ QStringLiteral("set-card-profile"), card, profile });
 }
 
 }

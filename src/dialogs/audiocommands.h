@@ -5,10 +5,10 @@
 #include <QStringList>
 
 /**
- * The sound server's keys for a headset, and the command lines that use them. A key can be what a remote
- * device calls itself. One made of ASCII letters and digits, blanks, ".", "_", ":" and "-" alone, in which
- * no word begins with "-", is written plainly; any other is guarded so that it can neither run code nor name
- * a file nor pass for an option.
+ * The sound server's keys for a headset, and the command lines that use them. A key may be the name that
+ * a remote device has chosen. In a shell line, one made of letters and digits, blanks, ".", "_", ":" and "-"
+ * alone, in which no word begins with "-", stands as it is; any other is quoted, so that it can neither run
+ * code nor name a file nor pass for an option.
  */
 namespace audiocommands {
 
@@ -22,10 +22,10 @@ QString listSinks(const QString &sinkKey);
 QString listSources(const QString &sourceKey);
 QString record(const QString &source);
 
-/** The arguments with which "pactl" switches a card's profile. */
-QStringList setCardProfile(const QString &cardKey, const QString &profile);
+/** Arguments for "pactl": the words of the line with the key and the profile, as QProcess splits it. */
+QStringList setCardProfileByKey(const QString &cardKey, const QString &profile);
 
-/** The same for a card by its own name: neither word is split or taken for an option. */
-QStringList setProfileOfCard(const QString &card, const QString &profile);
+/** Arguments for "pactl": the server's name of the card is one word, and so is the profile. */
+QStringList setCardProfileByName(const QString &card, const QString &profile);
 
 }

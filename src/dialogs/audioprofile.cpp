@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/audioprofile.h"
 
-/** The one character at a distance behind a marker, as a number; 0 where there is no digit. */
+/** The character at this distance from the start of a marker, as a number; 0 when it is not a digit. */
 static int digitAfter(const QString &line, const QString &marker, int distance)
 {
     const int start = line.indexOf(marker);
@@ -23,7 +23,7 @@ AudioProfile::AudioProfile(QString line)
     sources = digitAfter(line, QStringLiteral("sources:"), 9);
 }
 
-/** Servers write an address with ":" or, where that would not do in a name, with "_". */
+/** Servers write an address with ":", or in names with "_". */
 static bool mentions(const QString &text, QString address)
 {
     return text.contains(address, Qt::CaseInsensitive)
@@ -47,7 +47,7 @@ static void parseCard(const QString &card, CardProfiles *found)
     for (int i = heading + 1; i < lines.size(); ++i) {
         found->lines.append(lines[i]);
         if (i + 1 < lines.size() && lines[i + 1].contains(activeMarker)) {
-            found->active = lines[i + 1].mid(16).trimmed(); // behind a tab, the marker and its colon
+            found->active = lines[i + 1].mid(16).trimmed(); // behind the tab and the marker
             break;
         }
     }

@@ -21,12 +21,11 @@ public:
     int sources; ///< likewise
 };
 
-/** What a listing of sound cards says of the cards whose blocks contain a key. */
+/** The part of a listing of sound cards that is about cards whose blocks contain a key. */
 struct CardProfiles {
-    QString
-        card; ///< what the server calls the card, of several the one with the headset's address; may be empty
+    QString card; ///< the server's name of the card; of several, of the one with the headset's address
     QStringList lines; ///< one a profile, as listed
-    std::optional<QString> active; ///< name of the active profile, if the listing tells one
+    std::optional<QString> active; ///< name of the active profile, if the listing has one
 };
 
 /**
@@ -36,7 +35,7 @@ struct CardProfiles {
 CardProfiles parseCards(const QString &listing, const QString &key, const QString &address);
 
 /**
- * The first source in the output of "pactl list sources short" that bears the name PipeWire gives to the
+ * The first source in the output of "pactl list sources short" with the name that PipeWire gives to the
  * microphone of the headset with this address; empty when there is none.
  */
 QString findMicrophone(const QString &listing, const QString &address);

@@ -18,10 +18,7 @@ audiotest::audiotest(BluezQt::Manager *manager, QString address, QWidget *parent
     : QDialog(parent)
     , ui(new Ui::audiotest)
     , m_address(address)
-    , m_ready(false)
-    , m_channels(2)
     , m_manager(manager)
-    , m_pipewire(false)
 {
     ui->setupUi(this);
     setFixedSize(size());
@@ -59,11 +56,11 @@ bool audiotest::isPipewireRunning()
 
 void audiotest::uploadSamples()
 {
-    runShellBlindly(
+    runShellIgnoringResult(
         "pactl upload-sample /usr/share/sounds/freedesktop/stereo/audio-channel-front-left.oga left");
-    runShellBlindly(
+    runShellIgnoringResult(
         "pactl upload-sample /usr/share/sounds/freedesktop/stereo/audio-channel-front-right.oga right");
-    runShellBlindly(
+    runShellIgnoringResult(
         "pactl upload-sample /usr/share/sounds/freedesktop/stereo/audio-channel-front-center.oga center");
 }
 
@@ -90,7 +87,8 @@ void audiotest::updateProfileWidgets(const AudioProfile &profile)
 
 void audiotest::on_leftbt_clicked()
 {
-    runShellBlindly(m_pipewire ? "amixer -D pulse set Master 100%,0%; "
+    runShellIgnoringResult(m_pipewire
+                               ? "amixer -D pulse set Master 100%,0%; "
                                  "pw-play /usr/share/sounds/freedesktop/stereo/audio-channel-front-left.oga"
                                : "amixer -D pulse set Master 100%,0%; pactl play-sample left");
     QTimer::singleShot(1500, this, SLOT(resetbalance()));
@@ -98,19 +96,21 @@ void audiotest::on_leftbt_clicked()
 
 void audiotest::on_monobt_clicked()
 {
-    runShellBlindly(m_pipewire ? "amixer -D pulse set Master 100%,100%; "
+    runShellIgnoringResult(m_pipewire
+                               ? "amixer -D pulse set Master 100%,100%; "
                                  "pw-play /usr/share/sounds/freedesktop/stereo/audio-channel-front-center.oga"
                                : "amixer -D pulse set Master 100%,100%; pactl play-sample center");
 }
 
 void audiotest::on_rightbt_clicked()
 {
-    runShellBlindly(m_pipewire ? "amixer -D pulse set Master 0%,100%; "
+    runShellIgnoringResult(m_pipewire
+                               ? "amixer -D pulse set Master 0%,100%; "
                                  "pw-play /usr/share/sounds/freedesktop/stereo/audio-channel-front-right.oga"
                                : "amixer -D pulse set Master 0%,100%; pactl play-sample right");
     QTimer::singleShot(1500, this, SLOT(resetbalance()));
 }
 
-void audiotest::resetbalance() { runShellBlindly("amixer -D pulse set Master 100%,100%;"); }
+void audiotest::resetbalance() { runShellIgnoringResult("amixer -D pulse set Master 100%,100%;"); }
 
 void audiotest::on_close_clicked() { close(); }

@@ -12,16 +12,14 @@ class audiotest;
 }
 
 /**
- * Lets the user hear and speak through a connected headset: a test sound for each channel, the profiles of
- * its sound card, a recorded sample. All of it is done by the sound server's command-line tools, and the
- * window is blocked while they run.
+ * Tests the sound of a connected headset: a test sound for each channel, the profiles of its sound card, a
+ * recorded sample. It uses the command-line tools of the sound server and blocks the window while they run.
  */
 class audiotest : public QDialog {
     Q_OBJECT
 
 public:
-    /** The manager stays the caller's. An address that it does not know is treated as a device without name.
-     */
+    /** The manager stays the caller's. An address that it does not know means a device without a name. */
     audiotest(BluezQt::Manager *manager, QString address, QWidget *parent);
     ~audiotest() override;
 
@@ -34,11 +32,11 @@ private:
     QStringList m_profileLines;
     QString m_activeProfile;
     QList<AudioProfile *> m_profiles; ///< owned, in the order of the listing
-    bool m_ready; ///< false while the program itself changes the combo box
-    int m_channels; ///< 1 when the headset's sink is mono, else 2
+    bool m_ready = false; ///< false while the program itself changes the combo box
+    int m_channels = 2; ///< 1 when the headset's sink is mono, else 2
     BluezQt::DevicePtr m_device; ///< may be null
     BluezQt::Manager *m_manager;
-    bool m_pipewire; ///< whether PipeWire runs, else PulseAudio
+    bool m_pipewire = false; ///< whether PipeWire runs, else PulseAudio
 
     bool isPipewireRunning();
     void uploadSamples();

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The profiles of the headset's sound card: listing, showing and switching them.
+// Lists, shows and switches the profiles of the headset's sound card.
 #include "app/commandrunner.h"
-#include "app/feedback.h"
 #include "dialogs/audiocommands.h"
 #include "dialogs/audiotest.h"
 #include "ui_audiotest.h"
+#include "widgets/feedback.h"
 
 #include <unistd.h>
 
@@ -41,13 +41,14 @@ void audiotest::showActiveProfile()
 void audiotest::setCardProfile(const QString &name)
 {
     const CommandResult result = runCommand(QStringLiteral("pactl"),
-                                            audiocommands::setCardProfile(m_cardName, name), 30000);
+                                            audiocommands::setCardProfileByKey(m_cardName, name), 30000);
     if (result.exitCode == 0)
         return;
-    // PipeWire knows no card by what the headset calls itself.
+    // PipeWire does not find a card by the name of the headset.
     if (m_pipewire && !m_listedCard.isEmpty() && m_listedCard != m_cardName) {
-        const QStringList arguments = audiocommands::setProfileOfCard(m_listedCard, name);
-        if (runCommand(QStringLiteral("pactl"), arguments, 30000).exitCode == 0)
+        const CommandResult retry = runCommand(
+            QStringLiteral("pactl"), audiocommands::setCardProfileByName(m_listedCard, name), 30000);
+        if (retry.finished && retry.exitCode == 0)
             return;
     }
     showCritical(this, tr("Bluetooth Audio Profile"), QString::fromUtf8(result.standardError));
@@ -55,12 +56,12 @@ void audiotest::setCardProfile(const QString &name)
 
 void audiotest::on_profiles_currentIndexChanged(int index)
 {
-    // The list can have become shorter than the combo box, which is filled only once.
+    // The list may be shorter than the combo box, which is filled only once.
     if (!m_ready || index < 0 || index >= m_profiles.size())
         return;
     const QString requested = m_profiles[index]->name;
     setCardProfile(requested);
-    usleep(1000000); // the card needs a moment until its listing tells the new profile
+    usleep(1000000); // until the listing shows the new profile
     readCardProfiles();
     if (m_activeProfile != requested)
         showCritical(this, tr("Bluetooth Audio Profile"), tr("An error occure while changing profile"));

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Recording a sample from the headset's microphone and playing it back.
+// Records a sample from the headset's microphone and plays it back.
 #include "app/commandrunner.h"
-#include "app/feedback.h"
 #include "app/paths.h"
 #include "dialogs/audiocommands.h"
 #include "dialogs/audiotest.h"
 #include "ui_audiotest.h"
+#include "widgets/feedback.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -20,7 +20,7 @@ void audiotest::findSourceName()
     m_sourceName = found ? key : QString();
 }
 
-/** PipeWire names sources by address, so that the key finds none. */
+/** Under PipeWire sources are named by address, so that the key finds none. */
 void audiotest::findMicrophoneName()
 {
     const QStringList arguments = QStringLiteral("list sources short").split(QLatin1Char(' '));
@@ -47,14 +47,13 @@ void audiotest::on_record_clicked()
         return;
     }
     QProcess recorder;
-    recorder.start(QStringLiteral("sh"), { QStringLiteral("-c"), audiocommands::record(m_sourceName) },
-                   QIODevice::ReadWrite);
+    recorder.start(QStringLiteral("sh"), { QStringLiteral("-c"), audiocommands::record(m_sourceName) });
     ui->record->setEnabled(false);
     ui->play->setEnabled(false);
     showWaitCursor();
-    unlink(paths::audioSample); // on purpose only now, with the recorder started
-    recorder.waitForFinished(10000); // it does not end by itself: this is the recording time
-    runShellBlindly("killall parecord");
+    unlink(paths::audioSample); // intentionally after the recorder was started
+    recorder.waitForFinished(10000); // the recording time: it does not end by itself
+    runShellIgnoringResult("killall parecord");
     restoreCursor();
     if (sampleExists()) {
         ui->play->setEnabled(true);
@@ -72,7 +71,7 @@ void audiotest::on_play_clicked()
     ui->record->setEnabled(false);
     ui->play->setEnabled(false);
     showWaitCursor();
-    runShell(QStringLiteral("parecord -p /tmp/sample.wav"), 11000);
+    runShell(QStringLiteral("parecord -p %1").arg(QLatin1String(paths::audioSample)), 11000);
     ui->record->setEnabled(true);
     ui->play->setEnabled(true);
     restoreCursor();

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The dialog and its list of devices; connecting one is in btscan_connect.cpp.
+// The dialog and its list of devices; see btscan_connect.cpp for connecting one.
 #include "dialogs/btscan.h"
 
 #include "app/debuglog.h"
-#include "app/feedback.h"
-#include "app/look.h"
-#include "app/tablekeys.h"
 #include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
+#include "bluetooth/devicetype.h"
 #include "dialogs/pin.h"
 #include "ui_btscan.h"
+#include "widgets/devicetable.h"
+#include "widgets/feedback.h"
+#include "widgets/stylesheet.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Device>
@@ -21,17 +22,13 @@ btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     : QDialog(parent)
     , ui(new Ui::btscan)
     , m_agent(agent)
-    , m_pin(nullptr)
-    , m_busyLabel(nullptr)
-    , m_busyMovie(nullptr)
-    , m_busy(false)
     , settings(settings)
 {
     debugLog(3, "btscan::btscan");
     ui->setupUi(this);
     setFixedSize(size());
     debugLog(3, "btscan::btscan in");
-    setUpTable();
+    setUpDeviceTable(ui->devices, { tr("Description"), tr("Type") }, { 180 });
     ui->pairconnect->setEnabled(false);
     ui->remove->setEnabled(false);
     setStyleSheet(windowStyleSheet());
@@ -46,7 +43,6 @@ btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     startAnimation(ui->gif, nullptr);
     populateTable();
     m_agent->scanDevices();
-    addTableKeys(ui->devices);
     debugLog(3, "btscan::btscan out");
 }
 
@@ -58,58 +54,43 @@ btscan::~btscan()
     delete ui;
 }
 
-void btscan::setUpTable()
-{
-    QTableWidget *table = ui->devices;
-    table->setHorizontalHeaderLabels({ tr("Description"), tr("Type") });
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->setColumnWidth(0, 180);
-    table->setShowGrid(false);
-    table->verticalHeader()->hide();
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-}
-
 void btscan::startAnimation(QLabel *label, const char *file)
 {
     m_busyLabel = label;
     m_busyMovie = new QMovie(QString::fromUtf8(file ? file : ":/images/loader4.gif"));
-    m_busyMovie->setCacheMode(QMovie::CacheAll); // it turns as long as the dialog is open
+    m_busyMovie->setCacheMode(QMovie::CacheAll); // it runs as long as the dialog is open
     m_busyLabel->setMovie(m_busyMovie);
     m_busyLabel->show();
     m_busyMovie->start();
 }
 
-void btscan::appendRow(const BluezQt::DevicePtr &device, const QString &type)
+int btscan::appendRow(const BluezQt::DevicePtr &device)
 {
     const int row = ui->devices->rowCount();
     ui->devices->insertRow(row);
     auto *name = new QTableWidgetItem(device->name());
     name->setData(Qt::UserRole, device->address());
     ui->devices->setItem(row, 0, name);
-    ui->devices->setItem(row, 1, new QTableWidgetItem(type));
-    if (!m_rows.contains(device->address()))
-        m_rows.insert(device->address(), row);
+    return row;
 }
 
 bool btscan::isListed(const QString &address) const
 {
-    const int found = m_rows.value(address, -1);
-    const int last = found < 0 ? ui->devices->rowCount() - 1 : found;
-    for (int row = 0; row <= last; ++row) {
+    for (int row = 0; row < ui->devices->rowCount(); ++row) {
+        const QTableWidgetItem *item = ui->devices->item(row, 0);
         debugLog(3, "btscan::onDeviceFound item: %x",
-                 static_cast<unsigned>(reinterpret_cast<quintptr>(ui->devices->item(row, 0))));
+                 static_cast<unsigned>(reinterpret_cast<quintptr>(item)));
+        if (item && item->data(Qt::UserRole).toString() == address)
+            return true;
     }
-    return found >= 0;
+    return false;
 }
 
 void btscan::populateTable()
 {
     qDebug() << "populateTable";
     debugLog(3, "btscan::populateTable in");
-    ui->devices->clearContents(); // the rows stay on purpose, emptied; what is filled in now goes below them
-    m_rows.clear();
+    ui->devices->clearContents(); // intentionally keeps the empty rows; new ones go below
     const QList<BluezQt::DevicePtr> devices = m_agent->manager->devices();
     for (const BluezQt::DevicePtr &device : devices) {
         const QString type = BluezQt::Device::typeToString(device->type());
@@ -117,8 +98,9 @@ void btscan::populateTable()
                  logPrintable(device->address()), logPrintable(type));
         if (device->type() == BluezQt::Device::Uncategorized || device->isPaired())
             continue;
-        appendRow(device, type);
+        const int row = appendRow(device);
         qDebug() << "new item" << device->name();
+        ui->devices->setItem(row, 1, new QTableWidgetItem(deviceTypeText(device->type())));
     }
     debugLog(3, "btscan::populateTable out");
 }
@@ -142,7 +124,7 @@ void btscan::onDeviceFound()
         debugLog(3, "btscan::onDeviceFound found, skip");
         return;
     }
-    appendRow(device, type);
+    ui->devices->setItem(appendRow(device), 1, new QTableWidgetItem(deviceTypeText(device->type())));
     debugLog(3, "btscan::onDeviceFound out");
 }
 
@@ -191,7 +173,7 @@ void btscan::on_close_clicked()
 
 void btscan::on_remove_clicked()
 {
-    debugLog(3, "pairdesk::on_remove_clicked in"); // the main window's prefix is meant
+    debugLog(3, "pairdesk::on_remove_clicked in"); // the main window's prefix is intentional
     removeSelected();
     debugLog(3, "pairdesk::on_remove_clicked out");
 }
@@ -206,10 +188,10 @@ void btscan::removeSelected()
     const BluezQt::DevicePtr device = manager->deviceForAddress(address);
     if (!device)
         return;
-    const BluezQt::AdapterPtr adapter = usableOrFirstAdapter(manager);
+    const BluezQt::AdapterPtr adapter = ensureUsableAdapter(manager);
     if (!adapter)
         return;
-    // Wholesale on purpose, so that a removal is heard once; other listeners to this adapter end here too.
+    // Intentionally disconnects all receivers, so that a removal is reported once.
     QObject::disconnect(adapter.data(), nullptr, nullptr, nullptr);
     connect(adapter.data(), &BluezQt::Adapter::deviceRemoved, this, &btscan::onDeviceRemoved);
     adapter->removeDevice(device);
@@ -219,11 +201,7 @@ void btscan::onDeviceRemoved(BluezQt::DevicePtr /*device*/)
 {
     debugLog(3, "btscan::onDeviceRemoved in");
     populateTable();
-    // A manager that forgets the devices of a dead daemon must not hear of the next one in between.
-    if (m_agent->manager->isOperational())
-        restoreCursor();
-    else
-        restoreCursorOnly();
+    restoreCursorAfterRemoval(m_agent->manager);
     debugLog(3, "btscan::onDeviceRemoved out");
 }
 

@@ -3,7 +3,6 @@
 
 #include <BluezQt/Types>
 #include <QDialog>
-#include <QHash>
 #include <QModelIndex>
 
 class AppSettings;
@@ -21,8 +20,8 @@ class btscan;
 }
 
 /**
- * Lists the devices that discovery finds and connects the chosen one, which BlueZ pairs on the way.
- * Discovery runs from construction to destruction, less the time of a connect.
+ * Lists the devices that discovery finds and connects the selected one, which BlueZ pairs on the way.
+ * Discovery runs from construction to destruction, except during a connect.
  */
 class btscan : public QDialog {
     Q_OBJECT
@@ -35,22 +34,21 @@ public:
 private:
     Ui::btscan *ui;
     btagent *m_agent;
-    Pin *m_pin; ///< the newest PIN dialog, a child of this one; null when none is open
-    QLabel *m_busyLabel;
-    QMovie *m_busyMovie; ///< owned
+    Pin *m_pin = nullptr; ///< the newest PIN dialog, a child of this one; null when none is open
+    QLabel *m_busyLabel = nullptr;
+    QMovie *m_busyMovie = nullptr; ///< owned
     BluezQt::DevicePtr m_device; ///< being connected
-    BluezQt::DevicePtr m_pairDevice; ///< being paired by itself, which nothing here asks for today
-    bool m_busy; ///< a connect is under way, or the last one failed
+    BluezQt::DevicePtr m_pairDevice; ///< for pairing without connecting, which nothing starts
+    bool m_busy = false; ///< a connect is under way, or the last one failed
     AppSettings *settings;
-    QHash<QString, int> m_rows; ///< the first row of each listed address, which no device has to search for
 
-    void setUpTable();
-    /** Shows an animation, a resource or file path, on the label; null stands for the program's own. */
+    /** Shows an animation, a resource or file path, on the label; null for the built-in one. */
     void startAnimation(QLabel *label, const char *file);
     void populateTable();
     /** The address of the selected row, empty when there is none. */
     QString getDeviceAddress();
-    void appendRow(const BluezQt::DevicePtr &device, const QString &type);
+    /** Appends a row with the name and address of the device; returns its index. */
+    int appendRow(const BluezQt::DevicePtr &device);
     /** Whether there is a row with this address; traces each row up to that one. */
     bool isListed(const QString &address) const;
     void removeSelected();

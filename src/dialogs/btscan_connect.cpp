@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Connecting the chosen device. Its outcome comes on two roads, the device's signal and the finished call;
-// the one that finds m_device still set reports it.
+// Connects the selected device. The outcome arrives through two signals, of the device and of the pending
+// call; the one that finds m_device still set reports it.
 #include "app/debuglog.h"
-#include "app/feedback.h"
 #include "app/text.h"
 #include "bluetooth/btagent.h"
 #include "dialogs/btscan.h"
 #include "ui_btscan.h"
+#include "widgets/feedback.h"
 
 #include <BluezQt/Device>
 #include <BluezQt/PendingCall>
@@ -25,7 +25,7 @@ void btscan::on_pairconnect_clicked()
         return;
     }
     BluezQt::PendingCall *pc = device->connectToDevice();
-    // Wholesale on purpose: whatever listened to this device before, only this dialog does from now on.
+    // Intentionally disconnects all other receivers from this device.
     QObject::disconnect(device.data(), nullptr, nullptr, nullptr);
     connect(device.data(), &BluezQt::Device::connectedChanged, this, &btscan::onConnectedChanged);
     watchConnect(device, pc);
@@ -43,7 +43,7 @@ void btscan::watchConnect(const BluezQt::DevicePtr &device, BluezQt::PendingCall
 void btscan::onCallFinished(BluezQt::PendingCall *pc)
 {
     debugLog(3, "btscan::onCallFinished in");
-    pc->setParent(nullptr); // the library deletes it later, even if its device goes meanwhile
+    pc->setParent(nullptr); // it deletes itself later, even if its device is deleted first
     const int code = pc->error();
     const QString text = pc->errorText();
     if (code == BluezQt::PendingCall::UnknownError && text == QLatin1String("InProgress"))
@@ -54,7 +54,7 @@ void btscan::onCallFinished(BluezQt::PendingCall *pc)
     }
     const QString tag = pc->userData().toString();
     debugLog(3, "btscan::onCallFinished PendingCall error: %d", code);
-    restoreCursor(); // connectedChanged may arrive in here: m_device is looked at afterwards
+    restoreCursor(); // may deliver connectedChanged: m_device is checked afterwards
     if (tag == QLatin1String("connect") && m_device)
         handleConnectReply();
     else if (tag == QLatin1String("pairing") && m_pairDevice)
@@ -81,7 +81,7 @@ void btscan::handleFailure(int code, const QString &text)
     debugLog(3, "btscan::onCallFinished out1");
     closePin();
     m_agent->scanDevices();
-    // m_busy stays set on purpose: after a failure Remove is not offered any more.
+    // m_busy intentionally stays set: after a failure Remove is not offered any more.
 }
 
 void btscan::handleConnectReply()
@@ -118,7 +118,7 @@ void btscan::handlePairingReply()
 void btscan::onConnectedChanged(bool connected)
 {
     debugLog(3, "btscan::onConnectedChanged in");
-    restoreCursor(); // the finished call may arrive in here: m_device is looked at afterwards
+    restoreCursor(); // may deliver the finished call: m_device is checked afterwards
     if (m_device) {
         const QString name = m_device->name();
         debugLog(3, "btscan::onConnectedChanged dev: %s, connected: %d", logPrintable(name), connected);

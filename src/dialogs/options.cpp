@@ -32,7 +32,7 @@ void options::on_cancel_clicked() { reject(); }
 
 void options::on_debug_clicked(bool checked)
 {
-    debugLog(3, "pairdesk::on_debug_clicked %d", checked); // the main window's prefix is meant
+    debugLog(3, "pairdesk::on_debug_clicked %d", checked); // the main window's prefix is intentional
     if (checked)
         debugLogOpen(paths::debugLogFile, 3);
     else

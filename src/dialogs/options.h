@@ -10,8 +10,8 @@ class options;
 }
 
 /**
- * Edits the settings record in place when accepted; saving it is the caller's business. The check box for
- * the debug log acts at once, whatever becomes of the dialog.
+ * Edits the settings record in place when accepted; saving it is left to the caller. The check box for the
+ * debug log acts at once, also when the dialog is cancelled.
  */
 class options : public QDialog {
     Q_OBJECT

@@ -27,7 +27,7 @@ public:
 
     void doAction(const QString &name) override
     {
-        // Later, since a click runs commands and whoever asked is to have an answer at once.
+        // Queued: a click runs commands, and the caller waits for the answer.
         if (name == toggleAction())
             QMetaObject::invokeMethod(object(), "clicked", Qt::QueuedConnection);
         else
@@ -42,7 +42,7 @@ static QAccessibleInterface *create(const QString & /*key*/, QObject *object)
     return label ? new AccessibleSwitch(label) : nullptr;
 }
 
-void makeSwitchesAccessible() { QAccessible::installFactory(create); }
+void installAccessibleSwitchFactory() { QAccessible::installFactory(create); }
 
 void setAccessibleState(ClickableLabel *label, bool on)
 {

@@ -3,8 +3,8 @@
 
 class ClickableLabel;
 
-/** Presents clickable labels to assistive technology as check boxes, where to toggle one is to click it. */
-void makeSwitchesAccessible();
+/** Presents clickable labels to assistive technology as check boxes; toggling one clicks it. */
+void installAccessibleSwitchFactory();
 
 /** Tells assistive technology whether the switch is on. */
 void setAccessibleState(ClickableLabel *label, bool on);

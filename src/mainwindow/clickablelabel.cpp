@@ -11,23 +11,19 @@ ClickableLabel::ClickableLabel(QWidget *parent, Qt::WindowFlags flags)
     : QLabel(parent, flags)
 {
     setFocusPolicy(Qt::TabFocus);
-    makeSwitchesAccessible(); // before anybody asks what this label is
+    installAccessibleSwitchFactory(); // before the first query for this label
 }
 
-void ClickableLabel::mousePressEvent(QMouseEvent * /*event*/) { emit clicked(); }
+void ClickableLabel::mousePressEvent(QMouseEvent * /*event*/) { Q_EMIT clicked(); }
 
 void ClickableLabel::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!event->isAutoRepeat())
-            emit clicked();
-        break;
-    default:
+    const bool isClick = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return
+                         || event->key() == Qt::Key_Enter; // on the keypad
+    if (!isClick || (event->modifiers() & ~Qt::KeypadModifier))
         QLabel::keyPressEvent(event);
-    }
+    else if (!event->isAutoRepeat())
+        Q_EMIT clicked();
 }
 
 void ClickableLabel::paintEvent(QPaintEvent *event)

@@ -3,8 +3,10 @@
 
 #include <QLabel>
 
-/** A label that tells when a mouse button, whichever, goes down on it, or Space or Return while it has the
- * focus. */
+/**
+ * A label that reports a press of any mouse button on it and, while it has the focus, of Space or Return
+ * without modifiers.
+ */
 class ClickableLabel : public QLabel {
     Q_OBJECT
 

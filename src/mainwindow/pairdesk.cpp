@@ -2,21 +2,20 @@
 #include "mainwindow/pairdesk.h"
 
 #include "app/debuglog.h"
-#include "app/look.h"
 #include "app/paths.h"
-#include "app/tablekeys.h"
 #include "bluetooth/btagent.h"
 #include "ui_pairdesk.h"
+#include "widgets/devicetable.h"
+#include "widgets/stylesheet.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Manager>
 #include <BluezQt/PendingCall>
 #include <QGuiApplication>
-#include <QPixmapCache>
 #include <QScreen>
 #include <QTimer>
 
-/** A call deletes itself, but one that was refused for want of a daemon belongs to nobody. */
+/** Pending calls delete themselves; those rejected at once have no parent and would leak. */
 static void freeIfRefused(BluezQt::PendingCall *call)
 {
     if (!call->parent())
@@ -31,22 +30,15 @@ static void waitFor(BluezQt::PendingCall *call)
 
 pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     : QMainWindow(parent)
-    , m_bOk(false)
     , ui(new Ui::pairdesk)
-    , m_exitCode(-1) // so that a systemctl which crashes at the very first call does not read as "on"
-    , m_bOn(false)
     , m_manager(manager)
-    , m_agent(nullptr)
 {
     ui->setupUi(this);
     setWindowFlags(Qt::Dialog);
     setFixedSize(size());
-    setUpTable();
+    setUpDeviceTable(ui->devices, { tr("Description"), tr("Type"), tr("Status") }, { 260, 120 });
+    ui->devices->setContextMenuPolicy(Qt::CustomContextMenu);
     setStyleSheet(windowStyleSheet());
-    // A style sheet gives every window colours of its own, under which the style keeps what it has drawn:
-    // each dialog adds to the store, which may grow to 10 MiB. This many KiB are enough for what is open at a
-    // time.
-    QPixmapCache::setCacheLimit(1024);
     setWindowIcon(QIcon(QStringLiteral(":/images/btlogo64.png")));
 
     m_settings.load();
@@ -69,9 +61,8 @@ pairdesk::pairdesk(BluezQt::Manager *manager, QWidget *parent)
     ui->remove->setEnabled(false);
     centre();
     m_bOk = false;
-    addTableKeys(ui->devices);
-    // The switch comes last, so that the window opens with the focus on its first button. Qt 5 puts nothing
-    // directly behind the last widget.
+    // The switch is last, so that the window opens with the focus on its first button. Qt 5 cannot insert a
+    // widget directly behind the last one.
     setTabOrder(ui->ok, ui->pushme);
     setTabOrder(ui->ok, ui->options);
     debugLog(3, "pairdesk::pairdesk out");
@@ -82,21 +73,6 @@ pairdesk::~pairdesk()
 {
     debugLogClose();
     delete ui;
-}
-
-void pairdesk::setUpTable()
-{
-    QTableWidget *table = ui->devices;
-    table->setHorizontalHeaderLabels({ tr("Description"), tr("Type"), tr("Status") });
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->setColumnWidth(0, 260);
-    table->setColumnWidth(1, 120);
-    table->setShowGrid(false);
-    table->verticalHeader()->hide();
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setContextMenuPolicy(Qt::CustomContextMenu);
 }
 
 void pairdesk::connectSignals()
@@ -113,10 +89,10 @@ void pairdesk::connectSignals()
     connect(m_manager, &BluezQt::Manager::operationalChanged, this, &pairdesk::registerAgentAgain);
 }
 
-/** A daemon that comes back knows nothing of the agent that its predecessor had. */
+/** A restarted bluetoothd has lost the registration. */
 void pairdesk::registerAgentAgain()
 {
-    // Not what the signal told: events have been processed since, and the daemon may be gone again.
+    // The signal's argument may be outdated: events have been processed since.
     if (!m_manager->isOperational())
         return;
     freeIfRefused(m_manager->registerAgent(m_agent));
@@ -125,6 +101,6 @@ void pairdesk::registerAgentAgain()
 
 void pairdesk::centre()
 {
-    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-    move(available.center() - rect().center());
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
 }

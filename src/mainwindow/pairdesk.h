@@ -20,7 +20,7 @@ class pairdesk;
 
 /**
  * The program's one top-level window: the devices that are paired or connected, the Bluetooth switch, the
- * buttons for the chosen device and those that open the dialogs. It owns the settings record and the
+ * buttons for the selected device and those that open the dialogs. It owns the settings record and the
  * pairing agent and lends both to the dialogs.
  */
 class pairdesk : public QMainWindow {
@@ -32,26 +32,25 @@ public:
     ~pairdesk() override;
 
     /** True only when the user left the window with OK. */
-    bool m_bOk;
+    bool m_bOk = false;
 
 private:
     QString m_stdout; ///< of the last command; null when it wrote nothing
     QString m_stderr;
     Ui::pairdesk *ui;
-    int m_exitCode; ///< of the last command that ended normally; -1 before the first
-    bool m_bOn; ///< whether Bluetooth is on, that is, the service runs
+    int m_exitCode = -1; ///< of the last command that ended normally; not 0 before, which would read as "on"
+    bool m_bOn = false; ///< whether Bluetooth is on, that is, the service runs
     BluezQt::Manager *m_manager;
-    btagent *m_agent;
+    btagent *m_agent = nullptr;
     AppSettings m_settings;
 
-    void setUpTable();
     void connectSignals();
     void registerAgentAgain();
     void centre();
 
     /**
      * Runs a shell command, blocking for at most 30 s, and keeps its output and exit code in the members.
-     * True when it ended normally with exit code 0, or not in time; after a crash m_exitCode is the old one.
+     * True when it ended normally with exit code 0, or timed out; after a crash m_exitCode is the old one.
      */
     bool executeCommand(const QString &command);
     bool getBluetoothStatus();
@@ -64,9 +63,8 @@ private:
     /** The address of the selected row, empty when there is none. */
     QString getDeviceAddress();
 
-    /** The row's column-0 item that the context menu is about, null when there is none. */
+    /** The item that the context menu is for, null when there is none. */
     QTableWidgetItem *contextMenuItem() const;
-    QTableWidgetItem *itemForAddress(const QString &address) const;
 
 private Q_SLOTS:
     void on_onoff_clicked();
@@ -88,7 +86,7 @@ public Q_SLOTS:
     void onConnectedChanged(bool connected);
     void onBlockedChanged(bool blocked);
     void onOperationalChanged(bool operational);
-    void onPopupateTable(); // spelled so: timers call it by this name
+    void onPopupateTable(); // the spelling is fixed: timers call it by this name
     void onDevicePropertyChanged(BluezQt::DevicePtr device);
     void onCallFinished(QString action, QString error);
 };

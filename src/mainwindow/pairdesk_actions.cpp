@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the buttons do with the chosen device, and the two that end the program.
+// The buttons for the selected device, and the two that end the program.
 #include "app/debuglog.h"
-#include "app/feedback.h"
 #include "app/text.h"
 #include "bluetooth/adapters.h"
 #include "bluetooth/btagent.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
+#include "widgets/feedback.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Manager>
@@ -47,19 +47,19 @@ void pairdesk::on_remove_clicked()
 {
     debugLog(3, "pairdesk::on_remove_clicked in");
     const QString address = getDeviceAddress();
-    // The cursor is restored when BlueZ reports the device gone; where it never will, it stays on purpose.
+    // Restored when BlueZ reports the device removed; intentionally not on the early returns.
     showWaitCursor();
     const BluezQt::DevicePtr device = m_manager ? m_manager->deviceForAddress(address) : BluezQt::DevicePtr();
     if (!device) {
         debugLog(3, "pairdesk::on_remove_clicked out");
         return;
     }
-    const BluezQt::AdapterPtr adapter = usableOrFirstAdapter(m_manager);
+    const BluezQt::AdapterPtr adapter = ensureUsableAdapter(m_manager);
     if (!adapter) {
         qDebug() << noAdaptersMessage;
         return;
     }
-    // Anew on every removal, on purpose.
+    // Intentionally connected again on every removal.
     connect(adapter.data(), &BluezQt::Adapter::deviceRemoved, this, &pairdesk::onDeviceRemoved);
     adapter->removeDevice(device);
     debugLog(3, "pairdesk::on_remove_clicked out");

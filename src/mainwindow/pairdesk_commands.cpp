@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The commands that the window runs: shell lines for the switch, and a short low-energy scan.
+// The commands that the window runs: for the switch, and a short low-energy scan.
 #include "app/commandrunner.h"
 #include "app/debuglog.h"
 #include "app/text.h"
@@ -20,7 +20,7 @@ bool pairdesk::executeCommand(const QString &command)
     if (result.crashed) {
         qDebug() << "crash";
         debugLog(3, "pairdesk::executeCommand out1");
-        return false; // with the exit code of an earlier command, on purpose
+        return false; // intentionally keeps the exit code of an earlier command
     }
     m_exitCode = result.exitCode;
     qDebug() << "exitCode:" << m_exitCode;
@@ -34,16 +34,16 @@ bool pairdesk::executeCommand(const QString &command)
 
 void pairdesk::hcitoollescan()
 {
-    debugLog(3, "btagent::hcitoollescan"); // the agent's prefix is meant
+    debugLog(3, "btagent::hcitoollescan"); // the agent's prefix is intentional
     const QString program = QStringLiteral("hcitool");
     const QStringList arguments = { QStringLiteral("lescan") };
     QProcess process;
-    process.start(program, arguments, QIODevice::ReadWrite);
+    process.start(program, arguments);
     process.waitForFinished(3000);
     process.terminate();
     debugLog(3, "btagent::hcitoollescan exitCode: %d", process.exitCode());
     if (process.exitCode() == 1) {
-        process.start(program, arguments, QIODevice::ReadWrite);
+        process.start(program, arguments);
         process.waitForFinished(2000);
         process.terminate();
     }

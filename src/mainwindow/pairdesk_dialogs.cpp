@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Opening the dialogs: two by their buttons, the audio test by the table's context menu.
+// Opens the dialogs: two from their buttons, the audio test from the table's context menu.
 #include "app/commandrunner.h"
 #include "app/debuglog.h"
 #include "bluetooth/btagent.h"
@@ -13,6 +13,7 @@
 #include <BluezQt/Manager>
 #include <QDebug>
 #include <QMenu>
+#include <QPersistentModelIndex>
 
 void pairdesk::on_add_clicked()
 {
@@ -30,7 +31,7 @@ void pairdesk::on_options_clicked()
     if (dialog.exec() == QDialog::Accepted) {
         debugLog(3, "pairdesk::on_options_clicked options accepted");
         m_settings.save();
-        runShellBlindly("pdtray &");
+        runShellIgnoringResult("pdtray &");
     }
     debugLog(3, "pairdesk::on_options_clicked out");
 }
@@ -40,18 +41,8 @@ QTableWidgetItem *pairdesk::contextMenuItem() const
     QTableWidgetItem *current = ui->devices->currentItem();
     if (!current || current->column() == 0)
         return current;
-    // Deliberately the row number taken as a pixel: at the table's top edge, that is the topmost visible row.
+    // Intentionally the row number as a pixel at the top edge, which finds the topmost visible row.
     return ui->devices->itemAt(current->row(), 0);
-}
-
-QTableWidgetItem *pairdesk::itemForAddress(const QString &address) const
-{
-    for (int row = 0; row < ui->devices->rowCount(); ++row) {
-        QTableWidgetItem *item = ui->devices->item(row, 0);
-        if (item && item->data(Qt::UserRole).toString() == address)
-            return item;
-    }
-    return nullptr;
 }
 
 static bool isConnectedAudioDevice(const BluezQt::DevicePtr &device)
@@ -70,10 +61,11 @@ void pairdesk::on_devices_customContextMenuRequested(QPoint pos)
 {
     if (ui->devices->rowCount() == 0)
         return;
-    const QTableWidgetItem *chosen = contextMenuItem();
-    if (!chosen)
+    const QTableWidgetItem *item = contextMenuItem();
+    if (!item)
         return;
-    const QString address = chosen->data(Qt::UserRole).toString();
+    const QPersistentModelIndex chosen = ui->devices->model()->index(item->row(), item->column());
+    const QString address = item->data(Qt::UserRole).toString();
     qDebug() << address;
     const BluezQt::DevicePtr device = m_manager->deviceForAddress(address);
     if (device && isConnectedAudioDevice(device)) {
@@ -86,7 +78,7 @@ void pairdesk::on_devices_customContextMenuRequested(QPoint pos)
             return;
         }
     }
-    // The table may have been refilled and the device may be gone since the menu was opened.
-    if (QTableWidgetItem *item = itemForAddress(address))
-        updateElements(item);
+    // A refill while the menu was open has deleted the item and disabled the buttons.
+    if (chosen.isValid())
+        updateElements(ui->devices->item(chosen.row(), chosen.column()));
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The Bluetooth switch: it starts and stops the service and then shows what BlueZ's manager reports.
+// The Bluetooth switch: it starts and stops the service and shows what the manager reports then.
 #include "app/debuglog.h"
-#include "app/feedback.h"
 #include "app/text.h"
 #include "mainwindow/accessibleswitch.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
+#include "widgets/feedback.h"
 
 #include <BluezQt/Adapter>
 #include <BluezQt/Manager>

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The table of paired and connected devices, and the buttons that follow its chosen row.
+// The table of paired and connected devices, and the buttons for its selected row.
 #include "app/debuglog.h"
-#include "app/feedback.h"
 #include "app/text.h"
 #include "bluetooth/btagent.h"
+#include "bluetooth/devicetype.h"
 #include "mainwindow/pairdesk.h"
 #include "ui_pairdesk.h"
+#include "widgets/devicetable.h"
+#include "widgets/feedback.h"
 
-#include <BluezQt/Adapter>
 #include <BluezQt/Device>
+#include <BluezQt/Manager>
 #include <QDebug>
 #include <QSignalBlocker>
 
@@ -17,7 +19,7 @@ void pairdesk::populateTable()
     qDebug() << "populateTable";
     debugLog(3, "pairdesk::populateTable in");
     QTableWidget *table = ui->devices;
-    // The rows stay on purpose: when fewer devices qualify than before, the last ones are left empty.
+    // Intentionally keeps the rows: when fewer devices qualify than before, the last ones are empty.
     table->clearContents();
     int row = 0;
     const QList<BluezQt::DevicePtr> devices = m_manager->devices();
@@ -37,10 +39,10 @@ void pairdesk::populateTable()
         auto *name = new QTableWidgetItem(device->name());
         debugLog(3, "pairdesk::populateTable address is %s", logPrintable(device->address()));
         name->setData(Qt::UserRole, device->address());
-        // The view looks anew after the reset or the new row, and needs no word of each cell.
+        // The view updates itself after the reset or the new row; signals for each cell only cost time.
         const QSignalBlocker blocker(table->model());
         table->setItem(row, 0, name);
-        table->setItem(row, 1, new QTableWidgetItem(type));
+        table->setItem(row, 1, new QTableWidgetItem(deviceTypeText(device->type())));
         table->setItem(row, 2,
                        new QTableWidgetItem(device->isConnected() ? tr("Connected") : tr("Disconnected")));
         ++row;
@@ -99,11 +101,7 @@ void pairdesk::onDeviceRemoved(BluezQt::DevicePtr device)
     debugLog(3, "pairdesk::onDeviceRemoved dev: %s", logPrintable(device->name()));
     qDebug() << "onDeviceRemoved address:" << device->address();
     populateTable();
-    // A manager that forgets the devices of a dead daemon must not hear of the next one in between.
-    if (m_manager->isOperational())
-        restoreCursor();
-    else
-        restoreCursorOnly();
+    restoreCursorAfterRemoval(m_manager);
     updateElements(nullptr);
     debugLog(3, "pairdesk::onDeviceRemoved out");
 }

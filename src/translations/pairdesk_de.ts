@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Headset</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Kopfhörer</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Audio/Video</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Maus</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Gamepad</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Grafiktablett</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Peripherie</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Bildgerät</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Wearable</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Spielzeug</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Gesundheit</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>PIN für das Gerät:</translation>
+        <translation>PIN am Gerät eingeben:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Bei der Probeaufnahme ist ein Fehler aufgetreten.
-Die Datei ist leer</translation>
+Die Datei ist leer.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ Die Datei ist leer</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Beschäftigt</translation>
+        <translation>Vorgang läuft</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ Die Datei ist leer</translation>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Authentifizierung abgelehnt. Entfernen Sie das Gerät und koppeln Sie es erneut</translation>
+        <translation>Authentifizierung abgelehnt. Entfernen Sie das Gerät und koppeln Sie es erneut.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -162,6 +237,11 @@ Die Datei ist leer</translation>
     <message>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>Kopplung mit dem Gerät „%1“ fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Gerätesuche</translation>
     </message>
 </context>
 <context>
@@ -241,7 +321,7 @@ Die Datei ist leer</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Optionen...</translation>
+        <translation>Optionen…</translation>
     </message>
     <message>
         <source>Description</source>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Auriculares</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Auriculares</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Audio/vídeo</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Ratón</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Mando</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Tableta</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Periférico</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Cámara</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Ponible</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Juguete</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Salud</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Introduzca este PIN:</translation>
+        <translation>Introdúzcalo en el dispositivo:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -32,7 +107,7 @@
     </message>
     <message>
         <source>Test left</source>
-        <translation>Probar izquierda</translation>
+        <translation>Probar canal izquierdo</translation>
     </message>
     <message>
         <source>Test</source>
@@ -40,7 +115,7 @@
     </message>
     <message>
         <source>Test right</source>
-        <translation>Probar derecha</translation>
+        <translation>Probar canal derecho</translation>
     </message>
     <message>
         <source>Test mono</source>
@@ -68,7 +143,7 @@
     </message>
     <message>
         <source>Playback sample</source>
-        <translation>Oír muestra</translation>
+        <translation>Escuchar muestra</translation>
     </message>
     <message>
         <source>Audio Profiles:</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Se produjo un error al grabar la muestra de audio.
-El archivo está vacío</translation>
+El archivo está vacío.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ El archivo está vacío</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Ocupado</translation>
+        <translation>Operación en curso</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ El archivo está vacío</translation>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Autenticación rechazada. Elimine el dispositivo y repita el emparejamiento</translation>
+        <translation>Autenticación rechazada. Elimine el dispositivo y repita el emparejamiento.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -163,6 +238,11 @@ El archivo está vacío</translation>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>No se pudo emparejar el dispositivo «%1»</translation>
     </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Búsqueda de dispositivos Bluetooth</translation>
+    </message>
 </context>
 <context>
     <name>options</name>
@@ -176,7 +256,7 @@ El archivo está vacío</translation>
     </message>
     <message>
         <source>Debug log</source>
-        <translation>Registro</translation>
+        <translation>Depuración (log)</translation>
     </message>
     <message>
         <source>A2DP</source>
@@ -198,7 +278,7 @@ El archivo está vacío</translation>
     </message>
     <message>
         <source>Default headsets profile:</source>
-        <translation>Perfil inicial de auriculares:</translation>
+        <translation>Perfil predet. auriculares:</translation>
     </message>
 </context>
 <context>
@@ -241,7 +321,7 @@ El archivo está vacío</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Opciones...</translation>
+        <translation>Opciones…</translation>
     </message>
     <message>
         <source>Description</source>

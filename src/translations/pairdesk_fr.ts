@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Téléphone</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Ordinateur</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Casque</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Écouteurs</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Audio/vidéo</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Clavier</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Souris</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Manette</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Tablette</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Périphérique</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Imagerie</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Objet porté</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Jouet</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Santé</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Saisissez ce code PIN&#xa0;:</translation>
+        <translation>PIN à saisir sur l’appareil&#xa0;:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Une erreur est survenue lors de l’enregistrement d’essai.
-Le fichier est vide</translation>
+Le fichier est vide.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ Le fichier est vide</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Occupé</translation>
+        <translation>Opération en cours</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ Le fichier est vide</translation>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Authentification refusée. Supprimez l’appareil et recommencez l’appairage</translation>
+        <translation>Authentification refusée. Supprimez l’appareil et recommencez l’appairage.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -163,6 +238,11 @@ Le fichier est vide</translation>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>Échec de l’appairage de l’appareil «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Recherche d’appareils Bluetooth</translation>
+    </message>
 </context>
 <context>
     <name>options</name>
@@ -176,7 +256,7 @@ Le fichier est vide</translation>
     </message>
     <message>
         <source>Debug log</source>
-        <translation>Journal de debug</translation>
+        <translation>Log de débogage</translation>
     </message>
     <message>
         <source>A2DP</source>
@@ -190,7 +270,7 @@ Le fichier est vide</translation>
     </message>
     <message>
         <source>Show tray icon</source>
-        <translation>Icône d’état</translation>
+        <translation>Icône système</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -209,7 +289,7 @@ Le fichier est vide</translation>
     </message>
     <message>
         <source>Bluetooth ON/OFF</source>
-        <translation>Activer Bluetooth</translation>
+        <translation>Activer le Bluetooth</translation>
     </message>
     <message>
         <source>Add</source>
@@ -241,7 +321,7 @@ Le fichier est vide</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Options...</translation>
+        <translation>Options…</translation>
     </message>
     <message>
         <source>Description</source>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Telefono</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Rete</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Auricolare</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Cuffie</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Audio/video</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Tastiera</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Mouse</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Gamepad</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Tavoletta</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Periferica</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Fotocamera</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Immagini</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Indossabile</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Giocattolo</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Salute</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>PIN da inserire:</translation>
+        <translation>Inserire il PIN sul dispositivo:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Si è verificato un errore durante la registrazione di prova.
-Il file è vuoto</translation>
+Il file è vuoto.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ Il file è vuoto</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Occupato</translation>
+        <translation>Operazione in corso</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ Il file è vuoto</translation>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Autenticazione rifiutata. Rimuovere il dispositivo e ripetere l’associazione</translation>
+        <translation>Autenticazione rifiutata. Rimuovere il dispositivo e ripetere l’associazione.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -162,6 +237,11 @@ Il file è vuoto</translation>
     <message>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>Associazione del dispositivo «%1» non riuscita</translation>
+    </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Ricerca di dispositivi Bluetooth</translation>
     </message>
 </context>
 <context>
@@ -209,7 +289,7 @@ Il file è vuoto</translation>
     </message>
     <message>
         <source>Bluetooth ON/OFF</source>
-        <translation>Attiva Bluetooth</translation>
+        <translation>Attiva il Bluetooth</translation>
     </message>
     <message>
         <source>Add</source>
@@ -241,7 +321,7 @@ Il file è vuoto</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Opzioni...</translation>
+        <translation>Opzioni…</translation>
     </message>
     <message>
         <source>Description</source>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>電話</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>モデム</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>コンピューター</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>ヘッドセット</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>ヘッドホン</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>音声/映像</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>キーボード</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>マウス</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>ゲームパッド</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>ペンタブレット</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>周辺機器</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>画像機器</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>ウェアラブル</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>玩具</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>健康</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>次の PIN を入力してください:</translation>
+        <translation>デバイスで次の PIN を入力:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>オーディオサンプルの録音中にエラーが発生しました。
-ファイルが空です</translation>
+ファイルが空です。</translation>
     </message>
 </context>
 <context>
@@ -141,7 +216,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>認証が拒否されました。デバイスを削除して、もう一度ペアリングしてください</translation>
+        <translation>認証が拒否されました。デバイスを削除して、もう一度ペアリングしてください。</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -162,6 +237,11 @@ The file is empty</source>
     <message>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>デバイス「%1」とペアリングできませんでした</translation>
+    </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>デバイスの検索</translation>
     </message>
 </context>
 <context>
@@ -198,7 +278,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Default headsets profile:</source>
-        <translation>ヘッドセットの既定値:</translation>
+        <translation>ヘッドセットのプロファイル:</translation>
     </message>
 </context>
 <context>
@@ -241,7 +321,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Options...</source>
-        <translation>オプション...</translation>
+        <translation>オプション…</translation>
     </message>
     <message>
         <source>Description</source>

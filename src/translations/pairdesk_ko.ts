@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>휴대폰</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>모뎀</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>컴퓨터</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>네트워크</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>헤드셋</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>헤드폰</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>오디오/비디오</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>키보드</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>마우스</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>게임패드</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>태블릿</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>주변 기기</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>카메라</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>프린터</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>이미지 기기</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>웨어러블</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>장난감</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>건강</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -98,14 +173,14 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>오디오 샘플을 녹음하는 중에 오류가 발생했습니다.
-파일이 비어 있습니다</translation>
+파일이 비어 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>btscan</name>
     <message>
         <source>Bluetooth Scan</source>
-        <translation>블루투스 검색</translation>
+        <translation>블루투스 기기 검색</translation>
     </message>
     <message>
         <source>Devices found</source>
@@ -141,7 +216,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>인증이 거부되었습니다. 기기를 제거하고 다시 페어링하세요</translation>
+        <translation>인증이 거부되었습니다. 기기를 제거하고 다시 페어링하세요.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -162,6 +237,11 @@ The file is empty</source>
     <message>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>“%1” 기기와 페어링하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>블루투스 기기 검색</translation>
     </message>
 </context>
 <context>
@@ -241,7 +321,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Options...</source>
-        <translation>옵션...</translation>
+        <translation>옵션…</translation>
     </message>
     <message>
         <source>Description</source>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Komputer</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Sieć</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Headset</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Słuchawki</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Audio/wideo</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Klawiatura</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Mysz</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Kontroler</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Tablet</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Peryferia</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Aparat</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Drukarka</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Obrazy</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Ubieralne</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Zabawka</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Zdrowie</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Wystąpił błąd podczas nagrywania próbki dźwięku.
-Plik jest pusty</translation>
+Plik jest pusty.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ Plik jest pusty</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Zajęty</translation>
+        <translation>Trwa operacja</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ Plik jest pusty</translation>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Uwierzytelnianie odrzucone. Usuń urządzenie i powtórz parowanie</translation>
+        <translation>Uwierzytelnianie odrzucone. Usuń urządzenie i powtórz parowanie.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -162,6 +237,11 @@ Plik jest pusty</translation>
     <message>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>Parowanie z urządzeniem „%1” nie powiodło się</translation>
+    </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Wyszukiwanie urządzeń Bluetooth</translation>
     </message>
 </context>
 <context>
@@ -190,7 +270,7 @@ Plik jest pusty</translation>
     </message>
     <message>
         <source>Show tray icon</source>
-        <translation>W zasobniku</translation>
+        <translation>Ikona zasobnika</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -241,7 +321,7 @@ Plik jest pusty</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Opcje...</translation>
+        <translation>Opcje…</translation>
     </message>
     <message>
         <source>Description</source>

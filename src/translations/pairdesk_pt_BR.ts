@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Telefone</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Computador</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Rede</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Headset</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Fones</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Áudio/vídeo</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Teclado</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Mouse</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Joystick</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Mesa gráfica</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Periférico</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Câmera</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Impressora</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Imagem</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Vestível</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Brinquedo</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Saúde</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Insira este PIN:</translation>
+        <translation>Digite no dispositivo:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -32,7 +107,7 @@
     </message>
     <message>
         <source>Test left</source>
-        <translation>Testar à esquerda</translation>
+        <translation>Testar canal esquerdo</translation>
     </message>
     <message>
         <source>Test</source>
@@ -40,7 +115,7 @@
     </message>
     <message>
         <source>Test right</source>
-        <translation>Testar à direita</translation>
+        <translation>Testar canal direito</translation>
     </message>
     <message>
         <source>Test mono</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Ocorreu um erro ao gravar a amostra de áudio.
-O arquivo está vazio</translation>
+O arquivo está vazio.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ O arquivo está vazio</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Ocupado</translation>
+        <translation>Operação em andamento</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ O arquivo está vazio</translation>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Autenticação rejeitada. Remova o dispositivo e repita o pareamento</translation>
+        <translation>Autenticação rejeitada. Remova o dispositivo e repita o pareamento.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -163,6 +238,11 @@ O arquivo está vazio</translation>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>Não foi possível parear o dispositivo “%1”</translation>
     </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Busca de dispositivos Bluetooth</translation>
+    </message>
 </context>
 <context>
     <name>options</name>
@@ -176,7 +256,7 @@ O arquivo está vazio</translation>
     </message>
     <message>
         <source>Debug log</source>
-        <translation>Depuração</translation>
+        <translation>Log de debug</translation>
     </message>
     <message>
         <source>A2DP</source>
@@ -209,7 +289,7 @@ O arquivo está vazio</translation>
     </message>
     <message>
         <source>Bluetooth ON/OFF</source>
-        <translation>Ativar Bluetooth</translation>
+        <translation>Ativar o Bluetooth</translation>
     </message>
     <message>
         <source>Add</source>
@@ -241,7 +321,7 @@ O arquivo está vazio</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Opções...</translation>
+        <translation>Opções…</translation>
     </message>
     <message>
         <source>Description</source>

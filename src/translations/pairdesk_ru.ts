@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Телефон</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Модем</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Компьютер</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Гарнитура</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Наушники</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Аудио/видео</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Клавиатура</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Мышь</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Геймпад</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Планшет</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Периферия</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Принтер</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Сканер</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Носимое</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Игрушка</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Здоровье</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Введите этот PIN-код:</translation>
+        <translation>Введите PIN на устройстве:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -64,7 +139,7 @@
     </message>
     <message>
         <source>Record sample</source>
-        <translation>Записать пробу</translation>
+        <translation>Пробная запись</translation>
     </message>
     <message>
         <source>Playback sample</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>При пробной записи звука произошла ошибка.
-Файл пуст</translation>
+Файл пуст.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Занято</translation>
+        <translation>Выполняется</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Аутентификация отклонена. Удалите устройство и повторите сопряжение</translation>
+        <translation>Аутентификация отклонена. Удалите устройство и повторите сопряжение.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -162,6 +237,11 @@ The file is empty</source>
     <message>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>Не удалось выполнить сопряжение с устройством «%1»</translation>
+    </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Поиск устройств Bluetooth</translation>
     </message>
 </context>
 <context>
@@ -209,7 +289,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Bluetooth ON/OFF</source>
-        <translation>Bluetooth ВКЛ/ВЫКЛ</translation>
+        <translation>Bluetooth вкл./выкл.</translation>
     </message>
     <message>
         <source>Add</source>
@@ -241,7 +321,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Настройки...</translation>
+        <translation>Настройки…</translation>
     </message>
     <message>
         <source>Description</source>

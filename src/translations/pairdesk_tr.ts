@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Bilgisayar</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Ağ</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Kulaklık</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Kulaklık</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Ses/görüntü</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Klavye</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Fare</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Oyun kolu</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Tablet</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Çevre birimi</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Yazıcı</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Görüntüleme</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Giyilebilir</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Oyuncak</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Sağlık</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -64,7 +139,7 @@
     </message>
     <message>
         <source>Record sample</source>
-        <translation>Örnek kaydet</translation>
+        <translation>Ses örneği al</translation>
     </message>
     <message>
         <source>Playback sample</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Ses örneği kaydedilirken bir hata oluştu.
-Dosya boş</translation>
+Dosya boş.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ Dosya boş</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Meşgul</translation>
+        <translation>İşlem sürüyor</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ Dosya boş</translation>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Kimlik doğrulama reddedildi. Aygıtı kaldırıp yeniden eşleştirin</translation>
+        <translation>Kimlik doğrulama reddedildi. Aygıtı kaldırıp yeniden eşleştirin.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -163,6 +238,11 @@ Dosya boş</translation>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>“%1” aygıtı eşleştirilemedi</translation>
     </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Aygıt Arama</translation>
+    </message>
 </context>
 <context>
     <name>options</name>
@@ -176,7 +256,7 @@ Dosya boş</translation>
     </message>
     <message>
         <source>Debug log</source>
-        <translation>Ayrıntılı günlük</translation>
+        <translation>Hata ayıklama</translation>
     </message>
     <message>
         <source>A2DP</source>
@@ -209,7 +289,7 @@ Dosya boş</translation>
     </message>
     <message>
         <source>Bluetooth ON/OFF</source>
-        <translation>Bluetooth aç/kapat</translation>
+        <translation>Bluetooth’u aç/kapat</translation>
     </message>
     <message>
         <source>Add</source>
@@ -233,7 +313,7 @@ Dosya boş</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation>Ayır</translation>
+        <translation>Bağlantı Kes</translation>
     </message>
     <message>
         <source>OK</source>
@@ -241,7 +321,7 @@ Dosya boş</translation>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Seçenekler...</translation>
+        <translation>Seçenekler…</translation>
     </message>
     <message>
         <source>Description</source>

@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="uk" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>Телефон</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Модем</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>Комп’ютер</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Мережа</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>Гарнітура</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>Навушники</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>Аудіо/відео</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>Клавіатура</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>Миша</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>Джойстик</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>Планшет</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>Периферія</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>Принтер</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>Зображення</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>Переносний</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>Іграшка</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>Здоров’я</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -9,7 +84,7 @@
     </message>
     <message>
         <source>Please anter following the PIN:</source>
-        <translation>Введіть цей PIN-код:</translation>
+        <translation>Введіть PIN-код на пристрої:</translation>
     </message>
     <message>
         <source>Close</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>Під час запису зразка звуку сталася помилка.
-Файл порожній</translation>
+Файл порожній.</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Busy</source>
-        <translation>Зайнято</translation>
+        <translation>Триває операція</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,7 +216,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>Розпізнавання відхилено. Вилучіть пристрій і повторіть пов’язування</translation>
+        <translation>Розпізнавання відхилено. Вилучіть пристрій і повторіть пов’язування.</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
@@ -163,6 +238,11 @@ The file is empty</source>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>Не вдалося пов’язати пристрій «%1»</translation>
     </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>Пошук пристроїв Bluetooth</translation>
+    </message>
 </context>
 <context>
     <name>options</name>
@@ -176,7 +256,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Debug log</source>
-        <translation>Повний журнал</translation>
+        <translation>Зневаджування</translation>
     </message>
     <message>
         <source>A2DP</source>
@@ -198,7 +278,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Default headsets profile:</source>
-        <translation>Профіль гарнітур:</translation>
+        <translation>Типово для гарнітур:</translation>
     </message>
 </context>
 <context>
@@ -241,7 +321,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Options...</source>
-        <translation>Параметри...</translation>
+        <translation>Параметри…</translation>
     </message>
     <message>
         <source>Description</source>

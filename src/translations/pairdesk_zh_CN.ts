@@ -2,6 +2,81 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>DeviceType</name>
+    <message>
+        <source>phone</source>
+        <translation>手机</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>调制解调器</translation>
+    </message>
+    <message>
+        <source>computer</source>
+        <translation>电脑</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>headset</source>
+        <translation>耳麦</translation>
+    </message>
+    <message>
+        <source>headphones</source>
+        <translation>耳机</translation>
+    </message>
+    <message>
+        <source>audiovideo</source>
+        <translation>音视频</translation>
+    </message>
+    <message>
+        <source>keyboard</source>
+        <translation>键盘</translation>
+    </message>
+    <message>
+        <source>mouse</source>
+        <translation>鼠标</translation>
+    </message>
+    <message>
+        <source>joypad</source>
+        <translation>游戏手柄</translation>
+    </message>
+    <message>
+        <source>tablet</source>
+        <translation>数位板</translation>
+    </message>
+    <message>
+        <source>peripheral</source>
+        <translation>外设</translation>
+    </message>
+    <message>
+        <source>camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>imaging</source>
+        <translation>图像设备</translation>
+    </message>
+    <message>
+        <source>wearable</source>
+        <translation>可穿戴</translation>
+    </message>
+    <message>
+        <source>toy</source>
+        <translation>玩具</translation>
+    </message>
+    <message>
+        <source>health</source>
+        <translation>健康</translation>
+    </message>
+</context>
+<context>
     <name>Pin</name>
     <message>
         <source>Bluetooth Pairing PIN</source>
@@ -98,7 +173,7 @@
         <source>An error occurred while reconding the audio sample.
 The file is empty</source>
         <translation>录制音频样本时出错。
-文件为空</translation>
+文件为空。</translation>
     </message>
 </context>
 <context>
@@ -117,7 +192,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Busy</source>
-        <translation>忙碌</translation>
+        <translation>正在处理</translation>
     </message>
     <message>
         <source>Close</source>
@@ -141,11 +216,11 @@ The file is empty</source>
     </message>
     <message>
         <source>Authentication rejected. Remove the device and repeat pairing</source>
-        <translation>身份验证被拒绝。请移除设备后重新配对</translation>
+        <translation>身份验证被拒绝。请移除设备后重新配对。</translation>
     </message>
     <message>
         <source>Connection attempt failed</source>
-        <translation>尝试连接失败</translation>
+        <translation>连接尝试失败</translation>
     </message>
     <message>
         <source>Device &quot;%1&quot; successfully connected.</source>
@@ -162,6 +237,11 @@ The file is empty</source>
     <message>
         <source>Device &quot;%1&quot; pairing failure</source>
         <translation>设备“%1”配对失败</translation>
+    </message>
+    <message>
+        <source>Bluetooth Scan</source>
+        <comment>window title</comment>
+        <translation>搜索蓝牙设备</translation>
     </message>
 </context>
 <context>
@@ -198,7 +278,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Default headsets profile:</source>
-        <translation>耳机默认配置文件：</translation>
+        <translation>耳麦默认配置文件：</translation>
     </message>
 </context>
 <context>
@@ -241,7 +321,7 @@ The file is empty</source>
     </message>
     <message>
         <source>Options...</source>
-        <translation>选项...</translation>
+        <translation>选项…</translation>
     </message>
     <message>
         <source>Description</source>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/feedback.h"
+#include "widgets/feedback.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -10,11 +10,9 @@ void showWaitCursor()
     QApplication::processEvents();
 }
 
-void restoreCursorOnly() { QApplication::restoreOverrideCursor(); }
-
 void restoreCursor()
 {
-    restoreCursorOnly();
+    QApplication::restoreOverrideCursor();
     QApplication::processEvents();
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/look.h"
+#include "widgets/stylesheet.h"
 
 #include "app/paths.h"
 #include "app/regularfile.h"
@@ -11,15 +11,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/** What is in the file, nothing when somebody else has put it into a folder that everybody may write to. */
+/** The content of a file of the user or root; nothing when somebody else owns it, since /tmp is shared. */
 static QByteArray trustedContent(const char *path)
 {
     QFile file;
-    const int descriptor = openRegularFile(path, O_RDONLY);
-    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+    if (!openRegularFile(&file, path, O_RDONLY, QIODevice::ReadOnly))
         return {};
     struct stat status { };
-    const bool known = fstat(descriptor, &status) == 0;
+    const bool known = fstat(file.handle(), &status) == 0;
     return known && (status.st_uid == getuid() || status.st_uid == 0) ? file.readAll() : QByteArray();
 }
 

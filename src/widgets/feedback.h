@@ -11,12 +11,9 @@ void showWaitCursor();
 /** Pops one override cursor (harmless on an empty stack) and processes events once. */
 void restoreCursor();
 
-/** Pops one override cursor and leaves events alone. */
-void restoreCursorOnly();
-
 /**
- * Modal boxes with one OK button; they return when the box is closed. The text is shown as it is, never as
- * rich text: it may hold what a remote device calls itself.
+ * Shows a modal box with one OK button and returns when it is closed. The text is never interpreted as rich
+ * text, since it may contain the name of a remote device.
  */
 void showInformation(QWidget *parent, const QString &title, const QString &text);
 void showCritical(QWidget *parent, const QString &title, const QString &text);

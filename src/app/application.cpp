@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/application.h"
+
 #include "app/debuglog.h"
 #include "app/language.h"
 #include "app/paths.h"
@@ -10,17 +12,19 @@
 #include <BluezQt/Manager>
 #include <QApplication>
 #include <QDBusConnection>
+#include <QPixmapCache>
 
 #include <csignal>
 #include <cstdio>
+#include <memory>
 #include <unistd.h>
 
-/** The process' one manager; it lives until the process ends. */
+/** The only manager; it lives until the process ends. */
 static BluezQt::Manager *s_manager = nullptr;
 
 static void hupSignalHandler(int /*signal*/)
 {
-    // The agent's prefix is meant.
+    // The agent's prefix is intentional.
     debugLog(3, "btagent::hupSignalHandler");
 }
 
@@ -34,8 +38,8 @@ static bool catchHangup()
 }
 
 /**
- * Shows the first window. Qt's xcb plugin would load OpenGL for it, which a window of plain widgets never
- * uses and which takes half of the start-up and of the memory. No child process is to inherit the setting.
+ * Shows the first window. Qt's xcb plugin would load OpenGL for it, which plain widgets never use and which
+ * takes half of the start-up time and of the memory. Child processes do not inherit the setting.
  */
 static void showWithoutOpenGl(QWidget *window)
 {
@@ -48,7 +52,19 @@ static void showWithoutOpenGl(QWidget *window)
         qunsetenv(integration);
 }
 
-int main(int argc, char **argv)
+/** The windows have fixed sizes in pixels: where texts are larger, everything is scaled. */
+static std::unique_ptr<QApplication> createApplication(int &argc, char **argv)
+{
+    const ScreenScale scale;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, scale.isLarge()); // always on in Qt 6
+#endif
+    using Policy = Qt::HighDpiScaleFactorRoundingPolicy;
+    QApplication::setHighDpiScaleFactorRoundingPolicy(scale.isLarge() ? Policy::PassThrough : Policy::Round);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+int runApplication(int argc, char **argv)
 {
     if (anotherInstanceRuns()) {
         std::puts("Another instance is running. Exit.");
@@ -56,16 +72,12 @@ int main(int argc, char **argv)
     }
     writePidFile();
 
-    // The window has a fixed size in pixels: with larger texts, everything in it has to grow alike.
-    const bool scales = desktopScales();
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling, scales); // Qt 6 cannot but scale
-#endif
-    using Policy = Qt::HighDpiScaleFactorRoundingPolicy;
-    QApplication::setHighDpiScaleFactorRoundingPolicy(scales ? Policy::PassThrough : Policy::Round);
-    QApplication application(argc, argv);
+    const std::unique_ptr<QApplication> application = createApplication(argc, argv);
     QApplication::setDesktopFileName(QStringLiteral("pairdesk"));
-    speakUsersLanguage();
+    installTranslators();
+    // A style sheet gives each window a palette of its own, for which the style caches its pixmaps anew: with
+    // every dialog the cache would grow, to 10 MiB. This many KiB hold what is open at a time.
+    QPixmapCache::setCacheLimit(1024);
 
     s_manager = new BluezQt::Manager;
     // Without a bus the job would never end.
