@@ -38,11 +38,13 @@ static bool catchHangup()
 }
 
 /**
- * Shows the first window. Qt's xcb plugin would load OpenGL for it, which plain widgets never use and which
- * takes half of the start-up time and of the memory. Child processes do not inherit the setting.
+ * Shows the first window. The xcb plugin of Qt 5 would load OpenGL for it, which plain widgets never use and
+ * which takes half of the start-up time and of the memory; that of Qt 6 does so only for windows that use it.
+ * Child processes do not inherit the setting.
  */
 static void showWithoutOpenGl(QWidget *window)
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     static const char integration[] = "QT_XCB_GL_INTEGRATION";
     const bool chosenByUser = qEnvironmentVariableIsSet(integration);
     if (!chosenByUser)
@@ -50,6 +52,9 @@ static void showWithoutOpenGl(QWidget *window)
     window->show();
     if (!chosenByUser)
         qunsetenv(integration);
+#else
+    window->show();
+#endif
 }
 
 /** The windows have fixed sizes in pixels: where texts are larger, everything is scaled. */

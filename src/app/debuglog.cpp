@@ -25,7 +25,9 @@ void debugLogOpen(const char *path, int level)
         return;
     s_openedOnce = 1;
     const int descriptor = openRegularFile(path, O_RDWR | O_APPEND | O_CREAT);
-    if (descriptor >= 0)
+    // In /tmp, anybody can prepare a file that others may write into.
+    const bool isOurs = getuid() == 0 || ownerOf(descriptor) == getuid();
+    if (descriptor >= 0 && isOurs)
         s_file = fdopen(descriptor, "a+");
     if (!s_file) {
         if (descriptor >= 0)

@@ -18,6 +18,12 @@ int openRegularFile(const char *path, int flags)
     return -1;
 }
 
+uid_t ownerOf(int descriptor)
+{
+    struct stat status { };
+    return fstat(descriptor, &status) == 0 ? status.st_uid : static_cast<uid_t>(-1);
+}
+
 bool openRegularFile(QFile *file, const char *path, int flags, QIODevice::OpenMode mode)
 {
     const int descriptor = openRegularFile(path, flags);

@@ -3,6 +3,8 @@
 
 #include <QIODevice>
 
+#include <sys/types.h>
+
 class QFile;
 
 /**
@@ -11,6 +13,9 @@ class QFile;
  * pipe would block for ever) or when it is a symbolic link, which anybody can put into /tmp.
  */
 int openRegularFile(const char *path, int flags);
+
+/** Who owns the open file; of a descriptor that is not open, a user ID that nobody has. */
+uid_t ownerOf(int descriptor);
 
 /** Opens a QFile without a name in the same way; it closes the descriptor. False when that fails. */
 bool openRegularFile(QFile *file, const char *path, int flags, QIODevice::OpenMode mode);

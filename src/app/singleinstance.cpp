@@ -19,8 +19,8 @@ bool anotherInstanceRuns()
     if (!openRegularFile(&file, paths::pidFile, O_RDONLY, QIODevice::ReadOnly))
         return false;
     // Text that is not a number gives 0, for which kill() tests our own process group: intentionally, such a
-    // file refuses every start.
-    return kill(pidFromText(file.readAll()), 0) == 0;
+    // file refuses every start. Its size is limited, since anybody can put a huge one there.
+    return kill(pidFromText(file.read(4096)), 0) == 0;
 }
 
 void writePidFile()

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 void audiotest::findSourceName()
@@ -47,7 +48,9 @@ void audiotest::on_record_clicked()
         return;
     }
     QProcess recorder;
+    const mode_t before = umask(077); // the sample is for nobody else to hear
     recorder.start(QStringLiteral("sh"), { QStringLiteral("-c"), audiocommands::record(m_sourceName) });
+    umask(before);
     ui->record->setEnabled(false);
     ui->play->setEnabled(false);
     showWaitCursor();

@@ -8,8 +8,9 @@
 #include <QFile>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
+
+static const int maximumSize = 1024 * 1024; // bytes
 
 /** The content of a file of the user or root; nothing when somebody else owns it, since /tmp is shared. */
 static QByteArray trustedContent(const char *path)
@@ -17,9 +18,8 @@ static QByteArray trustedContent(const char *path)
     QFile file;
     if (!openRegularFile(&file, path, O_RDONLY, QIODevice::ReadOnly))
         return {};
-    struct stat status { };
-    const bool known = fstat(file.handle(), &status) == 0;
-    return known && (status.st_uid == getuid() || status.st_uid == 0) ? file.readAll() : QByteArray();
+    const uid_t owner = ownerOf(file.handle());
+    return owner == getuid() || owner == 0 ? file.read(maximumSize) : QByteArray();
 }
 
 QString windowStyleSheet()
