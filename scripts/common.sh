@@ -7,8 +7,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 build_packages=(cmake g++ libkf5bluezqt-dev libx11-dev ninja-build qtbase5-dev qttools5-dev)
 qt='' # what the presets end in that build with another Qt than usual
-run_packages=(alsa-utils bluez procps psmisc pulseaudio-utils sound-theme-freedesktop)
-demo_packages=(dbus-bin dbus-daemon procps python3-dbus python3-gi)
+run_packages=(alsa-utils bluez libasound2-plugins procps psmisc pulseaudio-utils sound-theme-freedesktop)
+demo_packages=(dbus procps python3-dbus python3-gi)
 test_packages=(bubblewrap nodejs)
 screen_packages=(imagemagick xdotool xvfb)
 real_packages=(alsa-utils at-spi2-core bluez bluez-test-tools busybox-static cpio dbus gir1.2-atspi-2.0 kmod
@@ -16,9 +16,14 @@ real_packages=(alsa-utils at-spi2-core bluez bluez-test-tools busybox-static cpi
     pipewire-pulse polkitd psmisc pulseaudio pulseaudio-module-bluetooth
     pulseaudio-utils qemu-system-x86 qtwayland5 sound-theme-freedesktop systemd weston wireplumber x11-utils)
 
-# Installs those of the packages that are missing; a prepared machine needs neither rights nor a network.
+# Installs those of the packages that are missing; a prepared machine needs neither rights nor a network. On
+# systems with other packages it only names them.
 need() {
     local missing as_root=()
+    if ! command -v dpkg-query >/dev/null; then
+        echo "This is not Debian. What these Debian packages contain has to be installed: $*" >&2
+        return
+    fi
     missing=$(comm -13 <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null |
         sed -n 's/ installed$//p' | sort -u) <(printf '%s\n' "$@" | sort -u))
     [[ -n $missing ]] || return 0
@@ -35,11 +40,12 @@ use_qt6() {
     build_packages=(cmake g++ libkf6bluezqt-dev libx11-dev ninja-build qt6-base-dev qt6-tools-dev qt6-l10n-tools)
 }
 
-# Builds a preset, with the chosen Qt, into $root/build/PRESET$qt.
+# Builds a preset, with the chosen Qt, into $root/build/PRESET$qt. A second build waits for the first one.
 build() {
     local log
     echo "Building the preset $1$qt"
-    log=$(cd "$root" && cmake --preset "$1$qt" 2>&1 && cmake --build --preset "$1$qt" 2>&1) || {
+    mkdir -p "$root/build"
+    log=$(cd "$root" && flock build sh -c "cmake --preset $1$qt && cmake --build --preset $1$qt" 2>&1) || {
         echo "$log" >&2
         return 1
     }

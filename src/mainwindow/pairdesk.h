@@ -3,7 +3,7 @@
 
 #include "app/appsettings.h"
 
-#include <BluezQt/Types>
+#include <BluezQt/Device>
 #include <QMainWindow>
 #include <QModelIndex>
 
