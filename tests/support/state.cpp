@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/state.h"
 
-#include "tests/support/testbus.h"
+#include "tests/support/files.h"
 
 #include <QtWidgets>
 
@@ -87,7 +87,7 @@ State State::current()
     const QCursor *cursor = QApplication::overrideCursor();
     state.values[": normal cursor"] = cursor && cursor->shape() == Qt::WaitCursor ? "wait cursor"
                                                                                   : "normal cursor";
-    for (const QString line : contentOf(TestBus::store).split('\n').mid(1)) {
+    for (const QString line : contentOf(settingsFile).split('\n').mid(1)) {
         if (!line.isEmpty())
             state.values["stored: " + line.section('=', 0, 0)] = line;
     }

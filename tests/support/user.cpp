@@ -5,6 +5,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <unistd.h>
+
 /** The cell with this text in the front window's table, null when nobody could click it. */
 static QTableWidgetItem *cell(const QString &text)
 {
@@ -16,9 +18,18 @@ static QTableWidgetItem *cell(const QString &text)
     return found.first();
 }
 
+static bool mouse(QTest::MouseAction action, const QString &row)
+{
+    const QTableWidgetItem *item = cell(row);
+    if (item)
+        QTest::mouseEvent(action, item->tableWidget()->viewport(), Qt::LeftButton, {},
+                          item->tableWidget()->visualItemRect(item).center());
+    return item != nullptr;
+}
+
 static bool click(const QString &object)
 {
-    if (object.contains('@') && !User::select(object.section('@', 1)))
+    if (object.contains('@') && !mouse(QTest::MouseClick, object.section('@', 1)))
         return false;
     auto *button = User::front()->findChild<QAbstractButton *>(object.section('@', 0, 0));
     if (!button || !button->isEnabled() || !button->isVisible())
@@ -57,9 +68,13 @@ static bool isCalled(const QWidget *window, const QString &name)
     return window->isVisible() && (window->objectName() == name || hasType);
 }
 
-User::User()
+User::User(const QList<Step> &steps)
+    : m_steps(steps)
 {
-    verb("select", &select);
+    verb("select", [](const QString &row) { return mouse(QTest::MouseClick, row); });
+    verb("hold", [](const QString &row) { return mouse(QTest::MousePress, row); });
+    verb("release", [](const QString &row) { return mouse(QTest::MouseRelease, row); });
+    verb("doubleclick", [](const QString &row) { return mouse(QTest::MouseDClick, row); });
     verb("click", &click);
     verb("menu", &openMenu);
     verb("press", &press);
@@ -73,13 +88,12 @@ User::User()
         return std::any_of(all.begin(), all.end(),
                            [&](QWidget *window) { return isCalled(window, object.section(' ', 1)); });
     });
-    verb("leave", [this](const QString &) {
-        return QThread::currentThread()->loopLevel() == m_level || (front()->close(), false);
-    });
     // A slot may process events in between: nobody is that fast.
     auto *dispatcher = QAbstractEventDispatcher::instance();
-    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] { m_idle = true; });
-    connect(dispatcher, &QAbstractEventDispatcher::awake, this, [this] { m_idle = false; });
+    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] { m_isIdle = true; });
+    connect(dispatcher, &QAbstractEventDispatcher::awake, this, [this] { m_isIdle = false; });
+    m_waiting.start();
+    QTimer::singleShot(0, this, &User::tryNext);
 }
 
 QWidget *User::front()
@@ -92,62 +106,36 @@ QWidget *User::front()
     return top ? top : none;
 }
 
-bool User::select(const QString &row)
-{
-    const QTableWidgetItem *item = cell(row);
-    if (item)
-        QTest::mouseClick(item->tableWidget()->viewport(), Qt::LeftButton, {},
-                          item->tableWidget()->visualItemRect(item).center());
-    return item != nullptr;
-}
-
 bool User::close(const QString &window) { return isCalled(front(), window) && front()->close(); }
 
-void User::perform(const QStringList &steps)
+void User::fail(const QString &why) const
 {
-    m_steps = steps;
-    m_next = 0;
-    m_failed = false;
-    m_isOver = true;
-    m_why = "a window stays open";
-    m_level = QThread::currentThread()->loopLevel() + 1;
-    m_since.start();
-    QTimer::singleShot(0, this, &User::tryNext);
-    m_loop.exec();
+    const Step &step = m_steps[m_isBusy ? m_next - 1 : m_next];
+    fprintf(stderr, "%s: %s\n%s\n", qPrintable(step.place), qPrintable(step.text), qPrintable(why));
+    _exit(98);
 }
 
 /** Each attempt has a timer of its own, so that one can be made inside of the step before. */
 void User::tryNext()
 {
-    if (!m_loop.isRunning())
-        return;
     QTimer::singleShot(3, this, &User::tryNext);
-    if (!m_idle)
+    if (!m_isIdle)
         return;
-    const bool isInside = QThread::currentThread()->loopLevel() > m_level;
-    const QString step = m_steps.value(m_next);
-    if (m_failed && isInside) {
-        front()->close();
-    } else if (m_failed || (m_isOver && step.isEmpty() && !isInside)) {
-        m_loop.quit();
-    } else if (!m_isOver && isOver(m_steps[m_next - 1], &m_why)) {
-        m_isOver = true;
-    } else if (m_isOver && !step.isEmpty()) {
+    if (m_isBusy && isSettled()) {
+        m_isBusy = false;
+        m_waiting.start();
+    } else if (!m_isBusy && m_next < m_steps.size()) {
         // A step may run an event loop in which the next ones are performed.
-        const QElapsedTimer since = std::exchange(m_since, {});
-        const auto verb = m_verbs.value(step.section(' ', 0, 0));
-        m_since.start();
-        m_isOver = false;
-        m_why = "not possible in " + front()->objectName() + front()->metaObject()->className() + ": " + step;
+        const QString text = m_steps[m_next].text;
+        const auto verb = m_verbs.value(text.section(' ', 0, 0));
+        m_why = "not possible in " + front()->objectName() + front()->metaObject()->className();
+        m_isBusy = true;
         ++m_next;
-        if (verb && verb(step.section(' ', 1)))
+        if (verb && verb(text.section(' ', 1)))
             return;
         --m_next;
-        m_isOver = true;
-        m_since = since;
+        m_isBusy = false;
     }
-    if (m_since.hasExpired(20000) && !m_failed) {
-        QTest::qFail(qPrintable(m_why), __FILE__, __LINE__);
-        m_failed = true;
-    }
+    if (m_waiting.hasExpired(20000) && m_next < m_steps.size())
+        fail(m_isBusy ? "does not come to an end" : m_why);
 }
