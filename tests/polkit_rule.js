@@ -4,7 +4,8 @@
 const assert = require("assert");
 const rules = [];
 global.polkit = { Result: { YES: "yes" }, addRule: (rule) => rules.push(rule) };
-require("vm").runInThisContext(require("fs").readFileSync(__dirname + "/../packaging/50-pairdesk.rules", "utf8"));
+const rulesFile = __dirname + "/../packaging/50-pairdesk.rules";
+require("vm").runInThisContext(require("fs").readFileSync(rulesFile, "utf8"));
 
 // Each row is a good request but for one thing, which is given several values.
 const good = { id: "org.freedesktop.systemd1.manage-units", unit: "bluetooth.service", verb: "start",
@@ -12,8 +13,8 @@ const good = { id: "org.freedesktop.systemd1.manage-units", unit: "bluetooth.ser
 for (const [expected, key, ...values] of [
     ["yes", "verb", "start", "stop"],
     ["yes", "groups", ["sudo"], ["wheel"], ["netdev"]],
-    [undefined, "verb", "restart", "reload", "enable", "mask", "kill", "set-property", "started", "", undefined],
-    [undefined, "unit", "ssh.service", "bluetooth", "a-bluetooth.service", "bluetooth.service.d", "", undefined],
+    [undefined, "verb", "restart", "reload", "enable", "mask", "kill", "set-property", "started", "", void 0],
+    [undefined, "unit", "ssh.service", "bluetooth", "a-bluetooth.service", "bluetooth.service.d", "", void 0],
     [undefined, "id", "org.freedesktop.systemd1.manage-unit-files", "org.freedesktop.login1.power-off"],
     [undefined, "local", false], [undefined, "active", false],
     [undefined, "groups", [], ["users", "lp", "audio", "adm"], ["bluetoothd"]],

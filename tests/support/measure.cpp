@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/layout.h"
+#include "tests/support/measure.h"
 
 #include <QtWidgets>
 
@@ -63,4 +63,18 @@ QStringList misfits(const QWidget *window)
         }
     }
     return found;
+}
+
+int connections(const QObject *object)
+{
+    struct Opened : QObject {
+        using QObject::receivers;
+    };
+    const QMetaObject *type = object->metaObject();
+    int count = 0;
+    for (int index = 0; index < type->methodCount(); ++index) {
+        if (type->method(index).methodType() == QMetaMethod::Signal)
+            count += (object->*&Opened::receivers)("2" + type->method(index).methodSignature());
+    }
+    return count;
 }
