@@ -87,6 +87,8 @@ private Q_SLOTS:
         const QString rule = "QPushButton:disabled { background-color:#3f3f3f; }";
         put(paths::styleSheet, QByteArray("/* \xe4 */\n\0cut", 12));
         QCOMPARE(windowStyleSheet(), "/* ä */\n" + rule);
+        put(paths::styleSheet, QByteArray(2 * 1024 * 1024, ' '));
+        QVERIFY(windowStyleSheet().size() == 1024 * 1024 + rule.size());
         if (chown(paths::styleSheet, 65534, 65534) == 0) // only root can
             QCOMPARE(windowStyleSheet(), rule);
         put("/tmp/linked.css", "/* elsewhere */");
