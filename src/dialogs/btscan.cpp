@@ -18,6 +18,28 @@
 #include <QDebug>
 #include <QMovie>
 
+namespace {
+/**
+ * A row's first item: the device's name, and its address under Qt::UserRole. The address is kept as a string
+ * because that of each new device is compared with those of all rows.
+ */
+class DeviceItem : public QTableWidgetItem {
+public:
+    const QString address;
+
+    explicit DeviceItem(const BluezQt::DevicePtr &device)
+        : QTableWidgetItem(device->name())
+        , address(device->address())
+    {
+    }
+
+    QVariant data(int role) const override
+    {
+        return role == Qt::UserRole ? address : QTableWidgetItem::data(role);
+    }
+};
+}
+
 btscan::btscan(btagent *agent, AppSettings *settings, QWidget *parent)
     : QDialog(parent)
     , ui(new Ui::btscan)
@@ -68,19 +90,17 @@ int btscan::appendRow(const BluezQt::DevicePtr &device)
 {
     const int row = ui->devices->rowCount();
     ui->devices->insertRow(row);
-    auto *name = new QTableWidgetItem(device->name());
-    name->setData(Qt::UserRole, device->address());
-    ui->devices->setItem(row, 0, name);
+    ui->devices->setItem(row, 0, new DeviceItem(device));
     return row;
 }
 
 bool btscan::isListed(const QString &address) const
 {
     for (int row = 0; row < ui->devices->rowCount(); ++row) {
-        const QTableWidgetItem *item = ui->devices->item(row, 0);
+        const auto *item = static_cast<const DeviceItem *>(ui->devices->item(row, 0));
         debugLog(3, "btscan::onDeviceFound item: %x",
                  static_cast<unsigned>(reinterpret_cast<quintptr>(item)));
-        if (item && item->data(Qt::UserRole).toString() == address)
+        if (item && item->address == address)
             return true;
     }
     return false;
